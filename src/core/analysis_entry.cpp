@@ -67,7 +67,7 @@ int dispatch(const KovXMLParser& document, const ReceivedText& text, int receive
     return KOV_ERROR_UNKNOWN_MESSAGE;
   }
   const Family& family = *row->family;
-  if (family.codes != nullptr) return family.codes->analyse(document, code.text(), result);
+  if (family.analyse == nullptr) return family.codes->analyse(document, code.text(), result);
   return family.analyse(
       {document, text.text(), text.length(), text.tail(), text.tailLength(), received, code.text(), result});
 }

@@ -60,8 +60,8 @@ int composeExtras(const Request& request, ComposeCall& call, HeaderExtras& extra
 
 int composeBody(const Family* family, ComposeCall& call, BodyWriter& document) {
   if (family == nullptr) return KOV_OK;
-  if (family->codes != nullptr) return family->codes->compose(call.param, call.direction, call.msgCode, document);
-  return family->compose(call, document);
+  if (family->compose != nullptr) return family->compose(call, document);
+  return family->codes->compose(call.param, call.direction, call.msgCode, document);
 }
 
 // Composes the whole document into `size` bytes. Returns its length, which is `size` or more when it was cut, or the

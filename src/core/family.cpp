@@ -24,13 +24,20 @@ void HeaderExtras::append(const char* name, std::size_t nameLength, std::int32_t
   append(name, nameLength, digits, text.written());
 }
 
+const CodeRow* CodeTable::lookUp(int code) const {
+  for (std::size_t i = 0; i < groupCount(); ++i) {
+    for (const CodeRow& row : group(i)) {
+      if (row.code == code) return &row;
+    }
+  }
+  return nullptr;
+}
+
 const CodeRow* CodeTable::find(const char* msgCode) const {
   const int code = intOf(msgCode);
-  for (const CodeRow& row : *this) {
-    if (row.code == code) return &row;
-  }
-  logUnknown_(msgCode, code);
-  return nullptr;
+  const CodeRow* const row = lookUp(code);
+  if (row == nullptr) logUnknown_(msgCode, code);
+  return row;
 }
 
 int CodeTable::compose(const void* param, int direction, const char* msgCode, BodyWriter& body) const {

@@ -65,15 +65,31 @@ struct CodeRow {
   const Message* message;
 };
 
+// Rows that stand together in one place.
+struct CodeGroup {
+  constexpr CodeGroup() = default;
+  template <std::size_t Count>
+  constexpr CodeGroup(const CodeRow (&group)[Count]) : rows(group), count(Count) {}
+
+  const CodeRow* begin() const { return rows; }
+  const CodeRow* end() const { return rows + count; }
+
+  const CodeRow* rows = nullptr;
+  std::size_t count = 0;
+};
+
 // A family that chooses its messages by the number in Msg_code.
 class CodeTable {
  public:
   using LogUnknown = void (*)(const char* msgCode, int code);
 
   // `name` begins the line about empty arguments, usually the Msg_type.
+  constexpr CodeTable(const char* name, CodeGroup rows, LogUnknown logUnknown)
+      : name_(name), rows_(rows), logUnknown_(logUnknown) {}
+  // A large family keeps its rows in groups, each beside its messages.
   template <std::size_t Count>
-  constexpr CodeTable(const char* name, const CodeRow (&rows)[Count], LogUnknown logUnknown)
-      : name_(name), rows_(rows), count_(Count), logUnknown_(logUnknown) {}
+  constexpr CodeTable(const char* name, const CodeGroup* const (&groups)[Count], LogUnknown logUnknown)
+      : name_(name), groups_(groups), groupCount_(Count), logUnknown_(logUnknown) {}
 
   int compose(const void* param, int direction, const char* msgCode, BodyWriter& body) const;
   int analyse(const KovXMLParser& document, const char* msgCode, void** result) const;
@@ -82,20 +98,22 @@ class CodeTable {
   int compose(const void* param, int direction, const char* msgCode, char* body, int bodySize) const;
   int analyse(const char* xml, const char* msgCode, void** result) const;
 
-  const CodeRow* begin() const { return rows_; }
-  const CodeRow* end() const { return rows_ + count_; }
+  std::size_t groupCount() const { return groups_ == nullptr ? 1 : groupCount_; }
+  const CodeGroup& group(std::size_t index) const { return groups_ == nullptr ? rows_ : *groups_[index]; }
 
  private:
+  const CodeRow* lookUp(int code) const;
   // The row of a code; null, and told, when there is none.
   const CodeRow* find(const char* msgCode) const;
 
   const char* name_;
-  const CodeRow* rows_;
-  std::size_t count_;
+  CodeGroup rows_;
+  const CodeGroup* const* groups_ = nullptr;
+  std::size_t groupCount_ = 0;
   LogUnknown logUnknown_;
 };
 
-// What the entries call for a Msg_type. A family that is a plain code table needs only that.
+// What the entries call for a Msg_type. A family that is a plain code table needs only that; a function goes before it.
 struct Family {
   const CodeTable* codes = nullptr;
   int (*compose)(ComposeCall& call, BodyWriter& body) = nullptr;

@@ -1,5 +1,7 @@
 #include "core/family_table.h"
 
+#include <iterator>
+
 #include "playback/nvr_replay.h"
 
 namespace kov {
@@ -11,8 +13,10 @@ constexpr FamilyRow kFamilies[] = {
 
 }  // namespace
 
+FamilyRows families() { return {std::begin(kFamilies), std::end(kFamilies)}; }
+
 const FamilyRow* findFamily(const char* msgType, std::size_t typeLength, const char* msgCode) {
-  for (const FamilyRow& row : kFamilies) {
+  for (const FamilyRow& row : families()) {
     if (row.typeLength != typeLength || std::memcmp(row.msgType, msgType, typeLength) != 0) continue;
     if (row.onlyCode == nullptr || sameText(row.onlyCode, msgCode)) return &row;
   }

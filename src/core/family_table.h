@@ -24,6 +24,15 @@ struct FamilyRow {
   const char* onlyCode;  // the row serves this Msg_code only; null: every code
 };
 
+struct FamilyRows {
+  const FamilyRow* begin() const { return first; }
+  const FamilyRow* end() const { return behind; }
+  const FamilyRow* first;
+  const FamilyRow* behind;
+};
+
+FamilyRows families();
+
 // The first row that serves a type and code, null when none does.
 const FamilyRow* findFamily(const char* msgType, std::size_t typeLength, const char* msgCode);
 

@@ -88,6 +88,9 @@ class Message {
   // The same for a document that has been parsed.
   int analyse(const KovXMLParser& document, void** result) const;
 
+  const char* name() const { return name_; }
+  const RecordType& record() const { return record_; }
+
  private:
   constexpr Message(const char* name, RecordType record, Form request, Form response, Direction direction,
                     const char* missing)
