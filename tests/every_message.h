@@ -1,6 +1,7 @@
 // All messages of the library, for the tests that put each of them through the same trials.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
