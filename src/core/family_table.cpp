@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "config/system_config.h"
 #include "playback/nvr_replay.h"
 
 namespace kov {
@@ -9,6 +10,8 @@ namespace {
 
 constexpr FamilyRow kFamilies[] = {
     {"NVR_REPLAY_MESSAGE", kNvrReplay},
+    {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
+    {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
 };
 
 }  // namespace
