@@ -14,14 +14,32 @@ char* skipBlanks(char* at) {
   return at;
 }
 
-char* skipName(char* at) {
-  while (isNameChar(*at)) ++at;
-  return at;
+[[gnu::always_inline]] inline char* skipName(char* at) {
+  for (;; at += 4) {
+    if (!isNameChar(at[0])) return at;
+    if (!isNameChar(at[1])) return at + 1;
+    if (!isNameChar(at[2])) return at + 2;
+    if (!isNameChar(at[3])) return at + 3;
+  }
 }
 
 /** The first `wanted` in [at, end), or null. */
 char* findByte(char* at, char wanted, const char* end) {
   return static_cast<char*>(std::memchr(at, wanted, static_cast<std::size_t>(end - at)));
+}
+
+/** findByte() for values, which are mostly so short that a call costs more than the search. */
+inline char* findQuote(char* at, char quote, const char* end) {
+  constexpr std::ptrdiff_t kShortValue = 16;
+  if (end - at > kShortValue) {
+    for (const char* stop = at + kShortValue; at < stop; at += 4) {
+      if (at[0] == quote) return at;
+      if (at[1] == quote) return at + 1;
+      if (at[2] == quote) return at + 2;
+      if (at[3] == quote) return at + 3;
+    }
+  }
+  return findByte(at, quote, end);
 }
 
 /** The first "]]>" in [at, end), or null. */
@@ -124,8 +142,8 @@ char* Scanner::startTag(char* at) noexcept {
   char* behind = skipName(at);
   const bool blank = isXmlBlank(*behind);
   char next = *behind;
-  *behind = '\0';
   ElementRecord& element = appendElement(at, static_cast<std::size_t>(behind - at));
+  *behind = '\0';
   if (blank) {
     behind = attributes(behind + 1, element);
     if (behind == nullptr) return nullptr;
@@ -149,9 +167,9 @@ ElementRecord& Scanner::appendElement(char* name, std::size_t length) noexcept {
   if (depth_ == 0) return element;
 
   Level& parent = innermost();
-  const std::uint32_t hash = hashName(name, length);
-  std::uint64_t& seen = parent.childNames[hash >> 6 & 1];
-  const std::uint64_t bit = std::uint64_t{1} << (hash & 63);
+  const std::uint32_t hash = hashEnds(name, length);
+  std::uint64_t& seen = parent.childNames[hash >> 31];
+  const std::uint64_t bit = std::uint64_t{1} << (hash >> 25 & 63);
   if ((seen & bit) == 0) element.shape = ElementRecord::kFirstOfName;
   seen |= bit;
   if (parent.lastChild != 0) {
@@ -174,11 +192,11 @@ char* Scanner::attributes(char* at, ElementRecord& element) noexcept {
       break;
     }
     if (name == at && count != 0 && !tolerated(Tolerance::AttributeAtQuote, text_ + element.name)) return nullptr;
-    std::size_t nameLength = 0;
+    std::uint32_t hash = 0;
     const Word index = first + count * kAttributeWords;
-    at = attribute(name, *reinterpret_cast<AttributeRecord*>(words_ + index), nameLength);
+    at = attribute(name, *reinterpret_cast<AttributeRecord*>(words_ + index), hash);
     if (at == nullptr) return nullptr;
-    if (count < NameSet::kCapacity && !names_.add(index, first, nameLength)) return nullptr;
+    if (count < NameSet::kCapacity && !names_.add(index, first, hash)) return nullptr;
   }
   used_ = first + count * kAttributeWords;
   element.shape += count * ElementRecord::kOneAttribute;
@@ -187,7 +205,7 @@ char* Scanner::attributes(char* at, ElementRecord& element) noexcept {
 }
 
 /** One `name = "value"`, stored into `record`. */
-inline char* Scanner::attribute(char* name, AttributeRecord& record, std::size_t& nameLength) noexcept {
+inline char* Scanner::attribute(char* name, AttributeRecord& record, std::uint32_t& hash) noexcept {
   char* nameEnd = skipName(name);
   char* at = nameEnd;
   if (*at != '=') at = skipBlanks(at);
@@ -196,15 +214,15 @@ inline char* Scanner::attribute(char* name, AttributeRecord& record, std::size_t
   if (*at != '"') at = skipBlanks(at);
   if (*at != '"' && *at != '\'') return nullptr;
   char* value = at + 1;
-  char* quote = findByte(value, *at, end_);
+  char* quote = findQuote(value, *at, end_);
   if (quote == nullptr) return nullptr;
   if constexpr (!toleratedEverywhere(Tolerance::MarkupInValue)) {
     if (findByte(value, '<', quote) != nullptr) return nullptr;
   }
+  hash = hashEnds(name, static_cast<std::size_t>(nameEnd - name));  // before the stores that its loads would wait for
   *nameEnd = '\0';
   *quote = '\0';
   record = {offsetOf(name), offsetOf(value)};
-  nameLength = static_cast<std::size_t>(nameEnd - name);
   return quote + 1;
 }
 
