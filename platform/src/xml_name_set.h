@@ -17,22 +17,19 @@ constexpr std::uint64_t kHashFactor = 0x9E3779B97F4A7C15u;
 
 /**
  * A hash of the first and the last eight bytes of a name, without a branch. The bytes behind a shorter name are loaded
- * and shifted out; the document's block goes on there.
+ * and masked out; the document's block goes on there.
  */
 inline std::uint32_t hashEnds(const char* name, std::size_t length) {
-  const std::size_t longer = length < 8 ? 8 : length;
-  const auto unused = static_cast<unsigned>(8 * (longer - length));
+  static constexpr unsigned char kKept[16] = {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF};
+  const std::size_t inHead = length < 8 ? length : 8;
   std::uint64_t head = 0;
   std::uint64_t tail = 0;
+  std::uint64_t kept = 0;
   std::memcpy(&head, name, 8);
-  std::memcpy(&tail, name + longer - 8, 8);
-#if __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
-  head <<= unused;
-  tail <<= unused;
-#else
-  head >>= unused;
-  tail >>= unused;
-#endif
+  std::memcpy(&tail, name + length - inHead, 8);
+  std::memcpy(&kept, kKept + 8 - inHead, 8);
+  head &= kept;
+  tail &= kept;
   return static_cast<std::uint32_t>(((head + (tail >> 7 | tail << 57)) * kHashFactor) >> 32);
 }
 
@@ -57,12 +54,11 @@ class NameSet {
   NameSet(const char* text, const Word* words) noexcept : text_(text), words_(words) {}
 
   /**
-   * Adds the name of the attribute record at word `index` for the element whose first attribute is at `first`. Slots
+   * Adds `name`, of the attribute record at word `index`, for the element whose first attribute is at `first`. Slots
    * that hold an index before `first` belong to an earlier element, so nothing is cleared between elements. False when
    * the element has an attribute of that name.
    */
-  bool add(Word index, Word first, std::uint32_t hash) noexcept {
-    const char* name = text_ + words_[index];
+  bool add(const char* name, Word index, Word first, std::uint32_t hash) noexcept {
     Word slot = hash >> 24;
     for (; slots_[slot] >= first; slot = (slot + 1) % kSlots) {
       if (std::strcmp(text_ + words_[slots_[slot]], name) == 0) return false;
