@@ -13,27 +13,36 @@
 
 namespace kov::xml {
 
-/** A hash of `length` bytes, taken in overlapping words so that most names cost two loads. */
-inline std::uint32_t hashName(const char* name, std::size_t length) {
-  constexpr std::uint64_t kOddFactor = 0x9E3779B97F4A7C15u;
+constexpr std::uint64_t kHashFactor = 0x9E3779B97F4A7C15u;
+
+/**
+ * A hash of the first and the last eight bytes of a name, without a branch. The bytes behind a shorter name are loaded
+ * and masked out; the document's block goes on there.
+ */
+inline std::uint32_t hashEnds(const char* name, std::size_t length) {
+  static constexpr unsigned char kKept[16] = {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF};
+  const std::size_t inHead = length < 8 ? length : 8;
   std::uint64_t head = 0;
   std::uint64_t tail = 0;
-  if (length >= 8) {
-    for (std::size_t at = 0; at + 8 < length; at += 8) {
-      std::memcpy(&head, name + at, 8);
-      tail = ((tail ^ head) * kOddFactor) ^ (tail >> 29);
-    }
-    std::memcpy(&head, name + length - 8, 8);
-  } else if (length >= 4) {
-    std::uint32_t part = 0;
-    std::memcpy(&part, name, 4);
-    head = part;
-    std::memcpy(&part, name + length - 4, 4);
-    head |= static_cast<std::uint64_t>(part) << 32;
-  } else {
-    for (std::size_t at = 0; at < length; ++at) head = head << 8 | static_cast<unsigned char>(name[at]);
+  std::uint64_t kept = 0;
+  std::memcpy(&head, name, 8);
+  std::memcpy(&tail, name + length - inHead, 8);
+  std::memcpy(&kept, kKept + 8 - inHead, 8);
+  head &= kept;
+  tail &= kept;
+  return static_cast<std::uint32_t>(((head + (tail >> 7 | tail << 57)) * kHashFactor) >> 32);
+}
+
+/** A hash of all bytes of a name. */
+inline std::uint32_t hashName(const char* name, std::size_t length) {
+  std::uint64_t hash = length;
+  for (; length > 8; name += 8, length -= 8) {
+    std::uint64_t part = 0;
+    std::memcpy(&part, name, 8);
+    hash = (hash ^ part) * kHashFactor;
+    hash ^= hash >> 29;
   }
-  return static_cast<std::uint32_t>(((head ^ tail ^ length) * kOddFactor) >> 32);
+  return hashEnds(name, length) ^ static_cast<std::uint32_t>(hash >> 32);
 }
 
 /** The attribute names of one element at a time, as word indices of their records. */
@@ -45,13 +54,12 @@ class NameSet {
   NameSet(const char* text, const Word* words) noexcept : text_(text), words_(words) {}
 
   /**
-   * Adds the name of the attribute record at word `index` for the element whose first attribute is at `first`. Slots
+   * Adds `name`, of the attribute record at word `index`, for the element whose first attribute is at `first`. Slots
    * that hold an index before `first` belong to an earlier element, so nothing is cleared between elements. False when
    * the element has an attribute of that name.
    */
-  bool add(Word index, Word first, std::size_t length) noexcept {
-    const char* name = text_ + words_[index];
-    Word slot = hashName(name, length) % kSlots;
+  bool add(const char* name, Word index, Word first, std::uint32_t hash) noexcept {
+    Word slot = hash >> 24;
     for (; slots_[slot] >= first; slot = (slot + 1) % kSlots) {
       if (std::strcmp(text_ + words_[slots_[slot]], name) == 0) return false;
     }

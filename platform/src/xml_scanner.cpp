@@ -14,14 +14,54 @@ char* skipBlanks(char* at) {
   return at;
 }
 
-char* skipName(char* at) {
-  while (isNameChar(*at)) ++at;
-  return at;
+[[gnu::always_inline]] inline char* skipName(char* at) {
+  for (;; at += 4) {
+    if (!isNameChar(at[0])) return at;
+    if (!isNameChar(at[1])) return at + 1;
+    if (!isNameChar(at[2])) return at + 2;
+    if (!isNameChar(at[3])) return at + 3;
+  }
 }
 
 /** The first `wanted` in [at, end), or null. */
 char* findByte(char* at, char wanted, const char* end) {
   return static_cast<char*>(std::memchr(at, wanted, static_cast<std::size_t>(end - at)));
+}
+
+/** findByte() for values, which are mostly so short that a call costs more than the search. */
+[[gnu::always_inline]] inline char* findQuote(char* at, char quote, const char* end) {
+  constexpr std::ptrdiff_t kShortValue = 16;
+  if (end - at > kShortValue) {
+    for (const char* stop = at + kShortValue; at < stop; at += 4) {
+      if (at[0] == quote) return at;
+      if (at[1] == quote) return at + 1;
+      if (at[2] == quote) return at + 2;
+      if (at[3] == quote) return at + 3;
+    }
+  }
+  return findByte(at, quote, end);
+}
+
+/** Where the parts of `name = "value"` lie; a null quote when it is malformed. */
+struct AttributeText {
+  char* nameEnd;
+  char* value;
+  char* quote;
+};
+
+[[gnu::always_inline]] inline AttributeText scanAttribute(char* name, const char* end) {
+  char* nameEnd = skipName(name);
+  char* at = nameEnd;
+  if (*at != '=') at = skipBlanks(at);
+  if (*at != '=') return {};
+  ++at;
+  if (*at != '"') at = skipBlanks(at);
+  if (*at != '"' && *at != '\'') return {};
+  char* quote = findQuote(at + 1, *at, end);
+  if constexpr (!toleratedEverywhere(Tolerance::MarkupInValue)) {
+    if (quote != nullptr && findByte(at + 1, '<', quote) != nullptr) return {};
+  }
+  return {nameEnd, at + 1, quote};
 }
 
 /** The first "]]>" in [at, end), or null. */
@@ -124,8 +164,8 @@ char* Scanner::startTag(char* at) noexcept {
   char* behind = skipName(at);
   const bool blank = isXmlBlank(*behind);
   char next = *behind;
-  *behind = '\0';
   ElementRecord& element = appendElement(at, static_cast<std::size_t>(behind - at));
+  *behind = '\0';
   if (blank) {
     behind = attributes(behind + 1, element);
     if (behind == nullptr) return nullptr;
@@ -149,9 +189,9 @@ ElementRecord& Scanner::appendElement(char* name, std::size_t length) noexcept {
   if (depth_ == 0) return element;
 
   Level& parent = innermost();
-  const std::uint32_t hash = hashName(name, length);
-  std::uint64_t& seen = parent.childNames[hash >> 6 & 1];
-  const std::uint64_t bit = std::uint64_t{1} << (hash & 63);
+  const std::uint32_t hash = hashEnds(name, length);
+  std::uint64_t& seen = parent.childNames[hash >> 31];
+  const std::uint64_t bit = std::uint64_t{1} << (hash >> 25 & 63);
   if ((seen & bit) == 0) element.shape = ElementRecord::kFirstOfName;
   seen |= bit;
   if (parent.lastChild != 0) {
@@ -163,9 +203,15 @@ ElementRecord& Scanner::appendElement(char* name, std::size_t length) noexcept {
   return element;
 }
 
-/** The attributes of a start tag, from behind the first blank; returns the byte that no attribute begins with. */
+/**
+ * The attributes of a start tag, from behind the first blank; returns the byte that no attribute begins with. Most of a
+ * document passes through this loop, so it keeps to locals, which the stores into the text cannot alter.
+ */
 char* Scanner::attributes(char* at, ElementRecord& element) noexcept {
+  char* const text = text_;
+  const char* const end = end_;
   const Word first = used_;
+  auto* const records = reinterpret_cast<AttributeRecord*>(words_ + first);
   Word count = 0;
   for (;; ++count) {
     char* name = skipBlanks(at);
@@ -173,39 +219,21 @@ char* Scanner::attributes(char* at, ElementRecord& element) noexcept {
       at = name;
       break;
     }
-    if (name == at && count != 0 && !tolerated(Tolerance::AttributeAtQuote, text_ + element.name)) return nullptr;
-    std::size_t nameLength = 0;
-    const Word index = first + count * kAttributeWords;
-    at = attribute(name, *reinterpret_cast<AttributeRecord*>(words_ + index), nameLength);
-    if (at == nullptr) return nullptr;
-    if (count < NameSet::kCapacity && !names_.add(index, first, nameLength)) return nullptr;
+    if (name == at && count != 0 && !tolerated(Tolerance::AttributeAtQuote, text + element.name)) return nullptr;
+    const AttributeText found = scanAttribute(name, end);
+    if (found.quote == nullptr) return nullptr;
+    // Hashed before the stores that the hash's loads would have to wait for.
+    const std::uint32_t hash = hashEnds(name, static_cast<std::size_t>(found.nameEnd - name));
+    *found.nameEnd = '\0';
+    *found.quote = '\0';
+    records[count] = {static_cast<Word>(name - text), static_cast<Word>(found.value - text)};
+    if (count < NameSet::kCapacity && !names_.add(name, first + count * kAttributeWords, first, hash)) return nullptr;
+    at = found.quote + 1;
   }
   used_ = first + count * kAttributeWords;
   element.shape += count * ElementRecord::kOneAttribute;
-  if (count > NameSet::kCapacity && !allDistinct(text_, words_, first, count, room_ - used_)) return nullptr;
+  if (count > NameSet::kCapacity && !allDistinct(text, words_, first, count, room_ - used_)) return nullptr;
   return at;
-}
-
-/** One `name = "value"`, stored into `record`. */
-inline char* Scanner::attribute(char* name, AttributeRecord& record, std::size_t& nameLength) noexcept {
-  char* nameEnd = skipName(name);
-  char* at = nameEnd;
-  if (*at != '=') at = skipBlanks(at);
-  if (*at != '=') return nullptr;
-  ++at;
-  if (*at != '"') at = skipBlanks(at);
-  if (*at != '"' && *at != '\'') return nullptr;
-  char* value = at + 1;
-  char* quote = findByte(value, *at, end_);
-  if (quote == nullptr) return nullptr;
-  if constexpr (!toleratedEverywhere(Tolerance::MarkupInValue)) {
-    if (findByte(value, '<', quote) != nullptr) return nullptr;
-  }
-  *nameEnd = '\0';
-  *quote = '\0';
-  record = {offsetOf(name), offsetOf(value)};
-  nameLength = static_cast<std::size_t>(nameEnd - name);
-  return quote + 1;
 }
 
 char* Scanner::endTag(char* at) noexcept {

@@ -48,7 +48,6 @@ class Scanner {
   char* startTag(char* at) noexcept;
   ElementRecord& appendElement(char* name, std::size_t length) noexcept;
   char* attributes(char* at, ElementRecord& element) noexcept;
-  char* attribute(char* name, AttributeRecord& record, std::size_t& nameLength) noexcept;
   char* endTag(char* at) noexcept;
   bool closeAs(const char* name) noexcept;
   char* processingInstruction(char* at) noexcept;
