@@ -4,6 +4,11 @@ project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$project"
 jobs=$(nproc)
 
+# Sanitizers name the source lines with what the compiler's package brings.
+export ASAN_OPTIONS=${ASAN_OPTIONS:-allow_addr2line=1}
+export MSAN_OPTIONS=${MSAN_OPTIONS:-allow_addr2line=1}
+export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1:allow_addr2line=1}
+
 build_packages=(g++ cmake ninja-build googletest)
 clang_packages=(clang libclang-rt-dev)
 
