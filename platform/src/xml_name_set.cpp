@@ -1,0 +1,36 @@
+/**
+ * @file xml_name_set.cpp
+ * @brief The check of elements with many attributes.
+ */
+#include "xml_name_set.h"
+
+#include <algorithm>
+
+namespace kov::xml {
+
+bool allDistinct(const char* text, Word* words, Word first, Word count, std::size_t room) noexcept {
+  constexpr std::size_t kStepsPerByte = 64;
+  const Word end = first + count * kAttributeWords;
+  const std::size_t slotCount = std::min<std::size_t>(room, std::size_t{2} * count);
+  if (slotCount <= count) return false;
+  Word* slots = words + end;
+  std::memset(slots, 0, slotCount * sizeof(Word));
+
+  std::size_t bytes = 0;
+  std::size_t steps = 0;
+  for (Word index = first; index < end; index += kAttributeWords) {
+    const char* name = text + words[index];
+    const std::size_t length = std::strlen(name);
+    bytes += length;
+    auto slot = static_cast<std::size_t>(std::uint64_t{hashName(name, length)} * slotCount >> 32);
+    for (; slots[slot] != 0; slot = slot + 1 < slotCount ? slot + 1 : 0) {
+      if (std::strcmp(text + words[slots[slot]], name) == 0) return false;
+      steps += length;
+    }
+    slots[slot] = index;
+    if (steps > kStepsPerByte * (bytes + NameSet::kCapacity)) return false;
+  }
+  return true;
+}
+
+}  // namespace kov::xml

@@ -1,0 +1,102 @@
+// The cursor that runs a form in one of two directions: it writes a body from a record, or reads the body into it.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+
+#include "core/attribute.h"
+#include "core/body_writer.h"
+#include "core/element_reader.h"
+
+namespace kov {
+
+using Attributes = std::initializer_list<Attribute>;
+
+class BodyIo;
+
+// A form without the type of its record.
+template <auto Form, class Record>
+void runForm(BodyIo& io, void* record) {
+  Form(io, *static_cast<Record*>(record));
+}
+
+// A form calls it once per element, in wire order. The default layout of an element is "<Name\n", one attribute a line,
+// "/>\n"; a form that needs another opening or closing says its text. Text that frames elements is written only.
+class BodyIo {
+ public:
+  explicit BodyIo(BodyWriter& writer) : writer_(&writer) {}
+  explicit BodyIo(const ElementReader& element) : writer_(nullptr), at_(element) {}
+
+  // False when reading, and the element of this cursor is missing.
+  explicit operator bool() const { return writer_ != nullptr || static_cast<bool>(at_); }
+  bool writing() const { return writer_ != nullptr; }
+  bool reading() const { return writer_ == nullptr; }
+
+  // One child element with attributes only. False when reading, and it is missing.
+  bool element(const char* name, Attributes attributes, const char* closing = "/>\n");
+  bool element(const char* name, const char* opening, Attributes attributes, const char* closing = "/>\n");
+  // As element(), but written only when the condition holds.
+  bool elementWhen(bool condition, const char* name, Attributes attributes);
+
+  // Steps into a child element that holds more than attributes. It opens "<Name>\n" unless the form says otherwise; the
+  // form writes its end with text().
+  BodyIo enter(const char* name);
+  BodyIo enter(const char* name, const char* opening);
+  // Attributes of the element that enter() opened.
+  void attributes(Attributes attributes);
+  // Child elements that hold one value each: "<name>value</name>\n".
+  void texts(Attributes values);
+
+  // Fixed text of the wire; nothing when reading.
+  void text(const char* fixed) {
+    if (writer_ != nullptr) writer_->text(fixed);
+  }
+
+  // Elements of one name, an entry each: io.list<account>("Account", r.accounts, r.AccountCount). Writing takes the
+  // first `count` entries, as far as the table has them; reading fills the table from the elements there are and counts
+  // them.
+  template <auto Form, class Entry, std::size_t Capacity>
+  void list(const char* name, Entry (&table)[Capacity], std::int32_t& count) {
+    const std::int32_t entries = listOf<Form>(name, table, count);
+    if (reading()) count = entries;
+  }
+  // The same for a table whose count travels elsewhere. Returns the number of entries written or read.
+  template <auto Form, class Entry, std::size_t Capacity>
+  std::int32_t listOf(const char* name, Entry (&table)[Capacity], std::int64_t count) {
+    return eachEntry(name, table, sizeof(Entry), Capacity, count, &runForm<Form, Entry>);
+  }
+
+  // The two sides, for what no form can say.
+  BodyWriter& writer() { return *writer_; }
+  const ElementReader& reader() const { return at_; }
+
+ private:
+  BodyIo(BodyWriter* writer, const ElementReader& element) : writer_(writer), at_(element) {}
+
+  std::int32_t eachEntry(const char* name, void* table, std::size_t entrySize, std::size_t capacity, std::int64_t count,
+                         void (*form)(BodyIo&, void*));
+
+  ElementReader find(const char* name);
+  void open(const char* name, const char* end);
+  void write(Attributes attributes);
+  void writeValue(const Attribute& attribute);
+  void writeUnsigned(const Attribute& attribute, std::uint64_t value, std::int64_t asSigned);
+  void writeList(const Attribute& attribute);
+  static bool isWritten(const Attribute& attribute);
+
+  static void read(const ElementReader& element, Attributes attributes);
+  static void readAttribute(const ElementReader& element, const Attribute& attribute);
+  static bool readRawly(const Attribute& attribute);
+  static void readRaw(const char* raw, const Attribute& attribute);
+  static void readHexadecimal(const char* raw, const Attribute& attribute);
+  static void readList(const char* raw, const Attribute& attribute);
+  static void readText(const ElementReader& element, const Attribute& value);
+  static void readNumber(const char* raw, const Attribute& value);
+
+  BodyWriter* writer_;     // null when reading
+  ElementReader at_;       // the element whose children this cursor reads
+  void* entry_ = nullptr;  // in a list: the element that the entry's form is about to name
+};
+
+}  // namespace kov

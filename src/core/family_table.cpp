@@ -1,0 +1,29 @@
+#include "core/family_table.h"
+
+#include <iterator>
+
+#include "config/system_config.h"
+#include "playback/nvr_replay.h"
+
+namespace kov {
+namespace {
+
+constexpr FamilyRow kFamilies[] = {
+    {"NVR_REPLAY_MESSAGE", kNvrReplay},
+    {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
+    {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
+};
+
+}  // namespace
+
+FamilyRows families() { return {std::begin(kFamilies), std::end(kFamilies)}; }
+
+const FamilyRow* findFamily(const char* msgType, std::size_t typeLength, const char* msgCode) {
+  for (const FamilyRow& row : families()) {
+    if (row.typeLength != typeLength || std::memcmp(row.msgType, msgType, typeLength) != 0) continue;
+    if (row.onlyCode == nullptr || sameText(row.onlyCode, msgCode)) return &row;
+  }
+  return nullptr;
+}
+
+}  // namespace kov

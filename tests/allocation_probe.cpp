@@ -1,0 +1,51 @@
+/**
+ * @file allocation_probe.cpp
+ * @brief The program's own non-throwing operator new. It takes its blocks from the ordinary one, so any delete fits.
+ */
+#include "allocation_probe.h"
+
+#include <new>
+
+namespace {
+
+struct Watch {
+  bool active = false;
+  int count = 0;
+  int failAt = 0;
+  std::size_t bytes = 0;
+};
+
+Watch& watch() {
+  static Watch instance;
+  return instance;
+}
+
+}  // namespace
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  Watch& w = watch();
+  if (w.active) {
+    if (++w.count == w.failAt) return nullptr;
+    w.bytes += size;
+  }
+  try {
+    return ::operator new(size);
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+
+namespace kov::test {
+
+AllocationProbe::AllocationProbe() {
+  watch() = Watch{};
+  watch().active = true;
+}
+
+AllocationProbe::~AllocationProbe() { watch() = Watch{}; }
+
+void AllocationProbe::failAt(int n) { watch().failAt = watch().count + n; }
+int AllocationProbe::count() const { return watch().count; }
+std::size_t AllocationProbe::bytes() const { return watch().bytes; }
+
+}  // namespace kov::test

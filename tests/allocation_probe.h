@@ -1,0 +1,29 @@
+/**
+ * @file allocation_probe.h
+ * @brief Counts, measures and fails the blocks that the library takes with non-throwing operator new.
+ */
+#ifndef KOV_TESTS_ALLOCATION_PROBE_H
+#define KOV_TESTS_ALLOCATION_PROBE_H
+
+#include <cstddef>
+
+namespace kov::test {
+
+/** Watches the calling program's non-throwing allocations while it lives; one at a time. */
+class AllocationProbe {
+ public:
+  AllocationProbe();
+  AllocationProbe(const AllocationProbe&) = delete;
+  AllocationProbe& operator=(const AllocationProbe&) = delete;
+  ~AllocationProbe();
+
+  /** Lets the n-th allocation from now on, and only that, fail; the next one is number 1. */
+  void failAt(int n);
+
+  int count() const;
+  std::size_t bytes() const;
+};
+
+}  // namespace kov::test
+
+#endif

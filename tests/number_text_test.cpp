@@ -1,0 +1,129 @@
+/**
+ * @file number_text_test.cpp
+ * @brief Numbers out of text, at and beyond the limits of their types.
+ */
+#include "kov_platform/number_text.h"
+
+#include <gtest/gtest.h>
+
+#include <cfloat>
+#include <climits>
+#include <clocale>
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+TEST(NumberText, IntegersStopSaturateAndSkipBlanks) {
+  const struct {
+    const char* text;
+    std::int32_t expected;
+  } cases[] = {
+      {"0", 0},
+      {" \t\n\v\f\r+12", 12},
+      {"-12abc", -12},
+      {"12 34", 12},
+      {"2147483647", INT32_MAX},
+      {"2147483648", INT32_MAX},
+      {"-2147483648", INT32_MIN},
+      {"-2147483649", INT32_MIN},
+      {"99999999999999999999999999", INT32_MAX},
+      {"-99999999999999999999999999", INT32_MIN},
+      {"0000000000000000000000000007", 7},
+      {"0x10", 0},
+      {"", 0},
+      {"-", 0},
+      {"+-1", 0},
+      {"- 1", 0},
+      {"x1", 0},
+      {"\xB2\xE2", 0},
+  };
+  for (const auto& c : cases) EXPECT_EQ(kov::intOf(c.text), c.expected) << c.text;
+  EXPECT_EQ(kov::intOf(nullptr), 0);
+}
+
+TEST(NumberText, ScannersMoveBehindTheNumberOrNotAtAll) {
+  bool negative = false;
+  std::uint64_t magnitude = 0;
+  const char* at = " -18446744073709551615,";
+  ASSERT_TRUE(kov::scanDecimal(at, negative, magnitude));
+  EXPECT_TRUE(negative);
+  EXPECT_EQ(magnitude, UINT64_MAX);
+  EXPECT_STREQ(at, ",");
+
+  const struct {
+    const char* text;
+    std::uint64_t expected;
+    const char* rest;
+  } cases[] = {{"0xFFg", 255, "g"},
+               {" +1aB", 0x1AB, ""},
+               {"0x", 0, "x"},
+               {"0xg", 0, "xg"},
+               {"fffffffffffffffff", UINT64_MAX, ""}};
+  for (const auto& c : cases) {
+    at = c.text;
+    ASSERT_TRUE(kov::scanHexadecimal(at, negative, magnitude)) << c.text;
+    EXPECT_EQ(magnitude, c.expected) << c.text;
+    EXPECT_STREQ(at, c.rest) << c.text;
+  }
+  std::int32_t value = 7;
+  for (const char* text : {"", "  ", " -", "g", ".5"}) {
+    at = text;
+    EXPECT_FALSE(kov::scanDecimal(at, negative, magnitude)) << text;
+    EXPECT_FALSE(kov::scanHexadecimal(at, negative, magnitude)) << text;
+    EXPECT_FALSE(kov::scanInt(at, value)) << text;
+    EXPECT_EQ(at, text);
+  }
+  EXPECT_EQ(value, 7);
+}
+
+TEST(NumberText, FloatsAgreeWithTheCLibrary) {
+  for (const char* text : {"0",
+                           "-0.0",
+                           "1",
+                           "+3.5",
+                           ".5",
+                           "5.",
+                           "0.1",
+                           "1e3",
+                           "1E-3",
+                           "16777217",
+                           "3.14159274",
+                           "123456789.125",
+                           "0.000123",
+                           "1e38",
+                           "3.4028235e38",
+                           "-3.4028235e38",
+                           "1.17549435e-38",
+                           "1e-45",
+                           "1e-60",
+                           "0e999999999999",
+                           "12345678901234567890123456789",
+                           " 7.25 ",
+                           "0.00000000000000000000000000000000000001234567"}) {
+    float value = 7;
+    ASSERT_TRUE(kov::floatOf(text, value)) << text;
+    EXPECT_EQ(value, std::strtof(text, nullptr)) << text;
+  }
+  for (int i = -5000; i < 5000; ++i) {
+    const std::string text = std::to_string(i / 7.0);
+    float value = 0;
+    ASSERT_TRUE(kov::floatOf(text.c_str(), value));
+    EXPECT_EQ(value, std::strtof(text.c_str(), nullptr)) << text;
+  }
+}
+
+TEST(NumberText, FloatsRefuseWhatIsNoFiniteNumber) {
+  float value = 7;
+  for (const char* text : {"", " ", "-", ".", "e5", "1e", "1e+", "1.5x", "1,5", "nan", "inf", "-Infinity", "0x10",
+                           "3.5e38", "-1e39", "1e999999999999999999999", "1 2"}) {
+    EXPECT_FALSE(kov::floatOf(text, value)) << text;
+  }
+  EXPECT_FALSE(kov::floatOf((std::string(400, '9')).c_str(), value));
+  EXPECT_FALSE(kov::floatOf(nullptr, value));
+  EXPECT_EQ(value, 7);
+  EXPECT_TRUE(kov::floatOf(("0." + std::string(100'000, '0') + "1e100001").c_str(), value));
+  EXPECT_EQ(value, 1);
+}
+
+}  // namespace
