@@ -1,7 +1,5 @@
-# The tests: one program of all tests/*.cpp. It brings its own logging and memory services, so that it sees every line
-# that is logged and can refuse a block; the reader and the encoders are the platform's.
-
-file(GLOB kov_test_sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/tests/*.cpp")
+# The tests. kov_tests is all of tests/*.cpp; it brings its own logging and memory services, so that it sees every line
+# that is logged and can refuse a block. kov_platform_tests, all of tests/platform/*.cpp, runs the platform's own.
 
 # Built from source, with the flags of this build: a sanitizer or another target machine needs its own.
 set(KOV_GOOGLETEST_DIR "/usr/src/googletest" CACHE PATH "Sources of GoogleTest")
@@ -11,16 +9,26 @@ add_subdirectory("${KOV_GOOGLETEST_DIR}" "${PROJECT_BINARY_DIR}/googletest" EXCL
 target_compile_options(gtest PRIVATE -w)
 target_compile_options(gtest_main PRIVATE -w)
 
-add_executable(kov_tests ${kov_test_sources})
-target_include_directories(kov_tests PRIVATE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/platform/src"
-                                             "${PROJECT_SOURCE_DIR}/tests")
-target_compile_definitions(kov_tests PRIVATE KOV_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
-target_link_libraries(kov_tests PRIVATE kov_protocol_static kov_platform gtest_main)
-kov_program_options(kov_tests)
-
-if(CMAKE_CROSSCOMPILING)
-  add_test(NAME kov_tests COMMAND kov_tests)  # in one go: each start under emulation costs more than most tests
-else()
+if(NOT CMAKE_CROSSCOMPILING)
   include(GoogleTest)
-  gtest_discover_tests(kov_tests DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endif()
+
+function(kov_test_program target directory)
+  file(GLOB sources CONFIGURE_DEPENDS "${directory}/*.cpp")
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(${target} ${sources})
+  target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/platform/src"
+                                               "${PROJECT_SOURCE_DIR}/tests")
+  target_link_libraries(${target} PRIVATE kov_protocol_static kov_platform gtest_main)
+  kov_program_options(${target})
+  if(CMAKE_CROSSCOMPILING)
+    add_test(NAME ${target} COMMAND ${target})  # in one go: a start under emulation costs more than most tests
+  else()
+    gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+  endif()
+endfunction()
+
+kov_test_program(kov_tests "${PROJECT_SOURCE_DIR}/tests")
+kov_test_program(kov_platform_tests "${PROJECT_SOURCE_DIR}/tests/platform")
