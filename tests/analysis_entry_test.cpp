@@ -1,0 +1,257 @@
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstring>
+#include <vector>
+
+#include "kov_protocol/nvr_replay.h"
+#include "wire.h"
+
+namespace kov::test {
+namespace {
+
+const std::string kType = "NVR_REPLAY_MESSAGE";
+const std::string kBody = "<REQUEST_PARAM\nChannelId=\"4\"\n/>\n";
+
+class AnalysisEntry : public WireTest {};
+
+int channelOf(const Analysis& analysis) {
+  return analysis.result == nullptr ? -9 : static_cast<NVR_REPLAY_3003_PARAM*>(analysis.result.get())->ChannelId;
+}
+
+TEST_F(AnalysisEntry, ReadsHeaderAndRecord) {
+  const std::string document = received(kType, "3003", kBody, "Msg_uuid=\"" + std::string(80, 'u') + "\"\n");
+  const Analysis analysis = analysePayload(document);
+  EXPECT_EQ(analysis.code, 0);
+  EXPECT_EQ(channelOf(analysis), 4);
+  EXPECT_STREQ(analysis.header.Msg_type, "NVR_REPLAY_MESSAGE");
+  EXPECT_STREQ(analysis.header.Msg_code, "3003");
+  EXPECT_STREQ(analysis.header.Msg_flag, "7");
+  EXPECT_EQ(analysis.header.Msg_uuid, std::string(63, 'u'));
+  EXPECT_STREQ(analysis.header.Msg_chn, "");
+  EXPECT_EQ(logLines(), std::vector<std::string>{"I KovProtocolMSGAnalysisStart get msgbuf:" + document + "\n"});
+}
+
+TEST_F(AnalysisEntry, TheDocumentMayEndAnywhereInThePayload) {
+  const std::string document = received(kType, "3003", kBody);
+  EXPECT_EQ(channelOf(analysePayload(document)), 4);
+  EXPECT_EQ(channelOf(analysePayload(document + "x")), 4);
+  EXPECT_EQ(channelOf(analysePayload(document + std::string("\0\0\0\0raw<<", 9))), 4);
+  EXPECT_EQ(channelOf(analysePayload(document + document)), 4);
+  std::string tight = document;  // without a blank that could make room for the NUL
+  tight.erase(tight.rfind('\n'), 1);
+  EXPECT_EQ(channelOf(analysePayload(tight)), 4);
+}
+
+TEST_F(AnalysisEntry, IncompleteTextIsRefusedInSilence) {
+  const std::string document = received(kType, "3003", kBody);
+  EXPECT_EQ(analysePayload(document.substr(0, document.size() - 1)).code, KOV_ERROR_INCOMPLETE);
+  EXPECT_EQ(analysePayload("<").code, KOV_ERROR_INCOMPLETE);
+  std::string cut = document;
+  cut[20] = '\0';
+  EXPECT_EQ(analysePayload(cut).code, KOV_ERROR_INCOMPLETE);
+  EXPECT_EQ(logLines(), std::vector<std::string>{});
+}
+
+TEST_F(AnalysisEntry, RefusesInvalidInput) {
+  char payload[] = "</XML_ZANTIR>";
+  KOV_PROTOCOL_HEADER header;
+  void* result = nullptr;
+  EXPECT_EQ(KovProtocolMSGAnalysisStart(nullptr, 5, -1, nullptr, &header, &result), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(KovProtocolMSGAnalysisStart(payload, 5, -1, nullptr, nullptr, &result), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(KovProtocolMSGAnalysisStart(payload, 5, -1, nullptr, &header, nullptr), KOV_ERROR_EMPTY_ARGUMENT);
+  for (const int length : {0, -1, INT_MIN}) {
+    EXPECT_EQ(KovProtocolMSGAnalysisStart(payload, length, -1, nullptr, &header, &result), KOV_ERROR_EMPTY_ARGUMENT);
+  }
+  EXPECT_EQ(logLines(), std::vector<std::string>(6, "E KovProtocolXMLAnalysis Invaild Input Param\n"));
+}
+
+TEST_F(AnalysisEntry, UnreadableDocumentsAndHeaders) {
+  struct {
+    const char* document;
+    const char* line;
+    int inner;
+  } const cases[] = {
+      {"text</XML_ZANTIR>", "E GetMessageHeader Parse xml error\n", -1003},
+      {"<XML_ZANTIR><A></B></XML_ZANTIR>", "E GetMessageHeader Parse xml error\n", -1003},
+      {"<!DOCTYPE a><XML_ZANTIR></XML_ZANTIR>", "E GetMessageHeader Parse xml error\n", -1003},
+      {"<XML_ZANTIR></XML_ZANTIR>", "E GetMessageHeader get MESSAGE_HEADER error\n", -1004},
+  };
+  for (const auto& bad : cases) {
+    resetPlatform();
+    const Analysis analysis = analysePayload(bad.document);
+    EXPECT_EQ(analysis.code, KOV_ERROR_BAD_HEADER) << bad.document;
+    EXPECT_EQ(analysis.result, nullptr);
+    EXPECT_EQ(failures(), (std::vector<std::string>{
+                              bad.line, "E GetMessageHeader failed! nRet:" + std::to_string(bad.inner) + " \n"}));
+  }
+}
+
+TEST_F(AnalysisEntry, FamiliesRefuseInTheirOwnWords) {
+  const struct {
+    std::string document;
+    int code;
+    const char* line;
+  } cases[] = {
+      {received("IOT_CAMERA_MESSAGE", "1205", ""), -1000,
+       "E KovProtocolMSGAnalysisStart deal a unknow Msg_type:IOT_CAMERA_MESSAGE Msg_code:1205 !!!\n"},
+      {"<XML_ZANTIR><MESSAGE_HEADER/></XML_ZANTIR>", -1000,
+       "E KovProtocolMSGAnalysisStart deal a unknow Msg_type: Msg_code: !!!\n"},
+      {received(kType, "1", ""), -1000, "E LIVE_STREAM_MESSAGE deal a unknow Msg_code:1 !!!\n"},
+      {received(kType, "3003", "<OTHER/>"), -1004,
+       "E NvrReplay_StreamControl_MessageAnalysis get RESPONSE_PARAM error\n"},
+      {"<XML_ZANTIR><MESSAGE_HEADER Msg_type=\"NVR_REPLAY_MESSAGE\" Msg_code=\"3003\"/></XML_ZANTIR>", -1003,
+       "E NvrReplay_StreamControl_MessageAnalysis get MESSAGE_BODY error\n"},
+  };
+  for (const auto& bad : cases) {
+    resetPlatform();
+    const Analysis analysis = analysePayload(bad.document);
+    EXPECT_EQ(analysis.code, bad.code) << bad.document;
+    EXPECT_EQ(analysis.result, nullptr);
+    EXPECT_EQ(failures(), std::vector<std::string>{bad.line});
+    EXPECT_EQ(allocations(), 0);
+  }
+}
+
+TEST_F(AnalysisEntry, DecodesByMode) {
+  const std::string document = received(kType, "3003", kBody);
+  std::string encoded = document;
+  for (char& c : encoded) c = static_cast<char>(~c);
+  EXPECT_EQ(channelOf(analysePayload(encoded, 0)), 4);
+  EXPECT_EQ(lastCoder(), "P2pProtocolDecode 0");
+  EXPECT_EQ(channelOf(analysePayload(encoded, 2)), 4);
+  EXPECT_EQ(lastCoder(), "KovProtocolDecode 2");
+  const std::string large = encoded + std::string(5000, ' ');
+  resetPlatform();
+  EXPECT_EQ(channelOf(analysePayload(large, 1)), 4);
+  EXPECT_EQ(allocations(), 2);
+  failAllocation(1);
+  EXPECT_EQ(analysePayload(large, 1).code, KOV_ERROR_NO_MEMORY);
+  EXPECT_EQ(failures(), std::vector<std::string>{"E KovProtocolMalloc faile!!\n"});
+}
+
+TEST_F(AnalysisEntry, DecodersThatFailOrLie) {
+  const std::string document = received(kType, "3003", kBody);
+  for (const std::size_t size : {std::size_t{100}, std::size_t{4096}, std::size_t{4097}, std::size_t{20000}}) {
+    const std::string payload(size, 'p');
+    const int capacity = size <= 4096 ? 8192 : static_cast<int>(2 * size);
+    const auto decodeTo = [&](int length) {
+      resetPlatform();
+      int told = 0;
+      setCoder([&](const char*, int, char* out, int room) {
+        told = room;
+        std::memset(out, ' ', static_cast<std::size_t>(room));
+        document.copy(out + room - document.size(), document.size());
+        return length;
+      });
+      const int code = analysePayload(payload, 1).code;
+      EXPECT_EQ(told, capacity);
+      return code;
+    };
+    EXPECT_EQ(decodeTo(-7), KOV_ERROR_CODING);
+    EXPECT_EQ(failures(), std::vector<std::string>{"E KovProtocolEncode faile!!, ret:-7\n"});
+    EXPECT_EQ(decodeTo(0), KOV_ERROR_INCOMPLETE);
+    EXPECT_EQ(decodeTo(capacity - 1), KOV_ERROR_INCOMPLETE);
+    EXPECT_EQ(decodeTo(capacity), KOV_ERROR_BAD_HEADER);  // blanks before the declaration
+    EXPECT_EQ(decodeTo(capacity + 1), KOV_ERROR_CODING);
+    EXPECT_EQ(decodeTo(INT_MAX), KOV_ERROR_CODING);
+  }
+  setCoder([](const char*, int, char*, int) { return 8000; });  // claims bytes that it never wrote
+  EXPECT_EQ(analysePayload("p", 1).code, KOV_ERROR_INCOMPLETE);
+}
+
+TEST_F(AnalysisEntry, QuotesTheChannelOfConfigurationQueries) {
+  const auto query = [](const std::string& code, const std::string& body) {
+    return received("SYSTEM_CONFIG_GET_MESSAGE", code, body);
+  };
+  const auto lastText = [](const std::string& payload) {
+    resetPlatform();
+    analysePayload(payload);
+    std::string text;
+    for (const std::string& line : logLines()) {
+      if (line.find("get msgbuf:") != std::string::npos) text = line;
+    }
+    return text.substr(text.find("msgbuf:") + 7);
+  };
+  for (const std::string code : {"501", "2511", "2560", "2561"}) {
+    const std::string plain = query(code, "<REQUEST_PARAM ChannelId=3/>");
+    const std::string quoted = query(code, "<REQUEST_PARAM ChannelId=\"3\"/>");
+    EXPECT_EQ(lastText(plain), quoted + "\n");
+    EXPECT_EQ(lastText(plain + std::string("\0\0\0\0tail", 8)), quoted + "\n");
+    EXPECT_EQ(lastText(quoted), quoted + "\n");
+  }
+  // Not a query of those; no channel; the codes count wherever they stand.
+  for (const std::string& untouched :
+       {query("502", "<REQUEST_PARAM ChannelId=3/>"), query("501", "<REQUEST_PARAM Channel=3/>"),
+        received("SYSTEM_CONFIG_SET_MESSAGE", "501", "<REQUEST_PARAM ChannelId=3/>")}) {
+    EXPECT_EQ(lastText(untouched), untouched + "\n");
+  }
+  const std::string elsewhere = query("300", "<REQUEST_PARAM a=\"2511\" ChannelId=3 /><B/>");
+  EXPECT_NE(lastText(elsewhere).find("ChannelId=\"3 \"/>"), std::string::npos);
+  EXPECT_NE(lastText(query("501", "<REQUEST_PARAM ChannelId=/>")).find("ChannelId=\"\"/>"), std::string::npos);
+}
+
+std::string transparent(const std::string& rest) {
+  return "<XML_ZANTIR>\n<TRANSPARENT_HEADER\nTrans_Type=\"T\"\nChannel_ID=\"2\"\nSession_ID=\"" + std::string(40, 's') +
+         "\"\n/>\n" + rest;
+}
+
+TEST_F(AnalysisEntry, TransparentMessagesHandOutTheEmbeddedText) {
+  const std::string embedded = "<MESSAGE_HEADER Msg_type=\"X\"/>\n<MESSAGE_BODY/>\n</XML_ZANTIR>";
+  for (const std::string tail : {"", "behind"}) {
+    const Analysis analysis = analysePayload(transparent(embedded) + tail);
+    ASSERT_EQ(analysis.code, static_cast<int>(embedded.size()));
+    const auto* const record = static_cast<TRANSPARENT_HEADER*>(analysis.result.get());
+    EXPECT_STREQ(analysis.header.Msg_type, "T");
+    EXPECT_STREQ(record->Trans_Type, "T");
+    EXPECT_STREQ(record->Channel_ID, "2");
+    EXPECT_STREQ(record->Source_Type, "");
+    EXPECT_EQ(record->Session_ID, std::string(31, 's'));
+    EXPECT_EQ(record->Payload, embedded);
+    EXPECT_EQ(record->PayloadLength, analysis.code);
+  }
+  EXPECT_EQ(failures(), std::vector<std::string>{});
+  EXPECT_EQ(analysePayload(transparent("<OTHER/>\n</XML_ZANTIR>")).code, KOV_ERROR_INCOMPLETE);
+  failAllocation(1);
+  EXPECT_EQ(analysePayload(transparent(embedded)).code, KOV_ERROR_NO_MEMORY);
+  EXPECT_EQ(failures(), std::vector<std::string>{"E Malloc Memory failed!\n"});
+}
+
+TEST_F(AnalysisEntry, EmbeddedTextMustFitItsField) {
+  const std::string opening = "<MESSAGE_HEADER a=\"";
+  const std::string closing = "\"/>\n</XML_ZANTIR>";
+  const auto ofLength = [&](std::size_t length) {
+    return transparent(opening + std::string(length - opening.size() - closing.size(), 'x') + closing);
+  };
+  EXPECT_EQ(analysePayload(ofLength(8191)).code, 8191);
+  resetPlatform();
+  EXPECT_EQ(analysePayload(ofLength(8192)).code, KOV_ERROR_SIZE);
+  EXPECT_EQ(failures(), std::vector<std::string>{"E Error: iBufLen(8192) small than len(8192)\n"});
+  EXPECT_EQ(allocations(), 0);
+}
+
+TEST_F(AnalysisEntry, StopReleasesOnceAndIgnoresNull) {
+  void* result = KovProtocolMSGAnalysisStop(nullptr) == 0 ? std::malloc(8) : nullptr;
+  ASSERT_NE(result, nullptr);
+  EXPECT_EQ(KovProtocolMSGAnalysisStop(&result), 0);
+  EXPECT_EQ(result, nullptr);
+  EXPECT_EQ(KovProtocolMSGAnalysisStop(&result), 0);
+}
+
+TEST_F(AnalysisEntry, HostileSizesTakeLinearTime) {
+  std::string attributes;
+  std::string siblings;
+  std::string nested;
+  for (int i = 0; i < 100000; ++i) {
+    attributes += " a" + std::to_string(i) + "=\"\"";
+    siblings += "<A/>";
+    nested += "<A>";
+  }
+  EXPECT_EQ(channelOf(analysePayload(received(kType, "3003", "<REQUEST_PARAM" + attributes + " ChannelId=\"4\"/>"))),
+            4);
+  EXPECT_EQ(channelOf(analysePayload(received(kType, "3003", siblings + kBody))), 4);
+  EXPECT_EQ(analysePayload(received(kType, "3003", nested)).code, KOV_ERROR_BAD_HEADER);
+}
+
+}  // namespace
+}  // namespace kov::test

@@ -1,0 +1,227 @@
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstring>
+#include <vector>
+
+#include "kov_protocol/nvr_replay.h"
+#include "wire.h"
+
+namespace kov::test {
+namespace {
+
+class ComposeEntry : public WireTest {
+ protected:
+  ComposeEntry() {
+    header_ = headerOf("NVR_REPLAY_MESSAGE", "3003");
+    set(header_.Msg_flag, "7");
+    record_.ChannelId = 1;
+  }
+
+  // Composes into a block of exactly `size` bytes.
+  int compose(int size, int encodeMode = KOV_PLAIN, void* key = nullptr) {
+    frame_.assign(static_cast<std::size_t>(size), '?');
+    const std::unique_ptr<char[]> exact(new char[static_cast<std::size_t>(size)]);
+    std::memcpy(exact.get(), frame_.data(), frame_.size());
+    const int length = KovProtocolXMLCompose(&header_, param_, 0, encodeMode, key, exact.get(), size);
+    frame_.assign(exact.get(), frame_.size());
+    return length;
+  }
+
+  std::uint32_t lengthField() const {
+    std::uint32_t field = 0;
+    std::memcpy(&field, &frame_[4], sizeof field);
+    return field;
+  }
+
+  KOV_PROTOCOL_HEADER header_;
+  NVR_REPLAY_3003_PARAM record_;
+  const void* param_ = &record_;
+  std::string frame_;
+};
+
+const std::string kHead =
+    "<?xml version=\"1.0\" encoding=\"GB2312\" ?>\n<XML_ZANTIR>\n<MESSAGE_HEADER\nMsg_type=\"NVR_REPLAY_MESSAGE\"\n"
+    "Msg_code=\"3003\"\nMsg_flag=\"7\"\n";
+const std::string kEnd = "</MESSAGE_BODY>\n</XML_ZANTIR>";
+const std::string kDocument = kHead + "/>\n<MESSAGE_BODY>\n<REQUEST_PARAM\nChannelId=\"1\"\n/>\n\n" + kEnd;
+
+TEST_F(ComposeEntry, FourEnvelopes) {
+  const int size = 9000;
+  const std::string extras = "Msg_uuid=\"u\"\nMsg_chn=\"c\"\n\n";
+  const std::string body = "<REQUEST_PARAM\nChannelId=\"1\"\n/>\n\n";
+  for (const bool withExtras : {false, true}) {
+    if (withExtras) set(header_.Msg_uuid, "u");
+    if (withExtras) set(header_.Msg_chn, "c");
+    for (const bool withBody : {true, false}) {
+      param_ = withBody ? &record_ : nullptr;
+      const std::string expected =
+          kHead + (withExtras ? extras : "") + "/>\n<MESSAGE_BODY>\n" + (withBody ? body : "") + kEnd;
+      ASSERT_EQ(compose(size), static_cast<int>(expected.size()) + 8);
+      EXPECT_EQ(frame_.substr(0, 4), "\x58\x91\x58\x51");
+      EXPECT_EQ(lengthField(), expected.size());
+      EXPECT_EQ(frame_.substr(8, expected.size()), expected);
+    }
+  }
+}
+
+TEST_F(ComposeEntry, LogsEveryStep) {
+  ASSERT_GT(compose(9000), 0);
+  const std::string length = std::to_string(kDocument.size());
+  const std::vector<std::string> expected = {
+      "I KovProtocolMessageBufCompose put msglen:" + length + " msgbuf:" + kDocument + " \n",
+      "I KovProtocolMessageBufCompose done, msglen:" + length + " DataLen:9000\n",
+      "I put buf len : " + std::to_string(kDocument.size() + 8) + "\n", "I Msg HeadInfo len : " + length + "\n"};
+  EXPECT_EQ(logLines(), expected);
+  resetPlatform();
+  compose(100);  // too small for the frame; the log shows the whole document all the same
+  ASSERT_EQ(logLines().size(), 2U);
+  EXPECT_EQ(logLines()[0], expected[0]);
+  EXPECT_EQ(logLines()[1], "I KovProtocolMessageBufCompose done, msglen:" + length + " DataLen:100\n");
+}
+
+TEST_F(ComposeEntry, AnExactFitIsRefusedAndOneMoreByteTaken) {
+  const int length = static_cast<int>(kDocument.size());
+  for (const int size : {1, 7, 8, 9, length, length + 8}) EXPECT_EQ(compose(size), KOV_ERROR_SIZE) << size;
+  EXPECT_EQ(failures(), std::vector<std::string>{});
+  EXPECT_EQ(compose(length + 9), length + 8);
+
+  NVR_REPLAY_3017_PARAM large;
+  set(large.TimeSliceInfo, std::string(2047, 's'));
+  NVR_REPLAY_3012_PARAM texts;
+  texts.HasVideoParam = texts.HasAudioParam = 1;
+  set(texts.VideoParam, std::string(1023, 'v'));
+  header_ = headerOf("NVR_REPLAY_MESSAGE", "3017");
+  param_ = &large;
+  const int whole = KovProtocolXMLCompose(&header_, param_, 1, KOV_PLAIN, nullptr, frame_.data(), 1);
+  EXPECT_EQ(whole, KOV_ERROR_SIZE);
+}
+
+TEST_F(ComposeEntry, RefusesInvalidInput) {
+  char out[16];
+  EXPECT_EQ(KovProtocolXMLCompose(nullptr, param_, 0, -1, nullptr, out, 16), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(KovProtocolXMLCompose(&header_, param_, 0, -1, nullptr, nullptr, 16), KOV_ERROR_EMPTY_ARGUMENT);
+  for (const int size : {0, -1, INT_MIN}) {
+    EXPECT_EQ(KovProtocolXMLCompose(&header_, param_, 0, -1, nullptr, out, size), KOV_ERROR_EMPTY_ARGUMENT);
+  }
+  EXPECT_EQ(logLines(), std::vector<std::string>(5, "E KovProtocolXMLAnalysis Invaild Input Param\n"));
+}
+
+TEST_F(ComposeEntry, UnknownTypesAndCodes) {
+  set(header_.Msg_code, "3018");
+  EXPECT_EQ(compose(9000), KOV_ERROR_UNKNOWN_MESSAGE);
+  EXPECT_EQ(logLines(), (std::vector<std::string>{
+                            "E LIVE_STREAM_MESSAGE deal a unknow Msg_code:3018 !!!\n",
+                            "E Msgtype:NVR_REPLAY_MESSAGE Msg_code:3018 Msg_flag:7 Compose failed, nRet : -1000\n"}));
+  for (const char* type : {"IOT_CAMERA_MESSAGE", "NVR_REPLAY_MESSAG", "NVR_REPLAY_MESSAGES", ""}) {
+    resetPlatform();
+    set(header_.Msg_type, type);
+    EXPECT_EQ(compose(9000), KOV_ERROR_UNKNOWN_MESSAGE);
+    EXPECT_EQ(logLines(), std::vector<std::string>{"E KovProtocolXMLCompose deal a unknow Msg_type:" +
+                                                   std::string(type) + " Msg_code:3018 !!!\n"});
+  }
+  param_ = nullptr;  // nothing to dispatch: an empty body for any type
+  EXPECT_GT(compose(9000), 0);
+}
+
+TEST_F(ComposeEntry, HeaderFieldsWithoutTerminatorStayInside) {
+  std::memset(static_cast<void*>(&header_), 'x', sizeof header_);
+  param_ = nullptr;
+  ASSERT_GT(compose(9000), 0);
+  const std::string x32(32, 'x');
+  const std::string expected = "<MESSAGE_HEADER\nMsg_type=\"" + x32 + "\"\nMsg_code=\"" + x32 + "\"\nMsg_flag=\"" +
+                               x32 + "\"\nMsg_uuid=\"" + x32 + x32 + "\"\nMsg_chn=\"" + x32 + "\"\n\n/>";
+  EXPECT_NE(frame_.find(expected), std::string::npos) << frame_;
+}
+
+TEST_F(ComposeEntry, EncodesByKeyAndMode) {
+  int key = 0;
+  const int size = static_cast<int>(2 * (kDocument.size() + 4) + 1);
+  EXPECT_EQ(compose(size - 1, 5, &key), KOV_ERROR_SIZE);
+  EXPECT_EQ(logLines().back(), "E KovProtocolMessageEncryption failed , ret : -1007\n");
+  for (const int room : {size, 8191, 8192, 8193, 70000}) {
+    for (const bool keyed : {true, false}) {
+      resetPlatform();
+      ASSERT_EQ(compose(room, 5, keyed ? &key : nullptr), static_cast<int>(kDocument.size()) + 8);
+      EXPECT_EQ(lastCoder(), keyed ? "KovProtocolEncode 5" : "P2pProtocolEncode 5");
+      EXPECT_EQ(frame_.substr(0, 4), "\x57\x81\x59\x52");
+      EXPECT_EQ(lengthField(), kDocument.size());
+      for (std::size_t i = 0; i < kDocument.size(); ++i) ASSERT_EQ(frame_[8 + i], static_cast<char>(~kDocument[i]));
+      EXPECT_EQ(logLines()[2], "I KovProtocolEncode done, ret:" + std::to_string(kDocument.size()) + "\n");
+    }
+  }
+}
+
+TEST_F(ComposeEntry, EncodersThatFailOrFillTheirCapacity) {
+  const int size = 600;
+  setCoder([](const char*, int, char*, int) { return -3; });
+  EXPECT_EQ(compose(size, 0), KOV_ERROR_CODING);
+  EXPECT_EQ(failures(), (std::vector<std::string>{"E KovProtocolEncode faile!!, ret:-3\n",
+                                                  "E KovProtocolMessageEncryption failed , ret : -1009\n"}));
+  setCoder([](const char*, int, char*, int) { return 0; });
+  EXPECT_EQ(compose(size, 0), 8);
+  EXPECT_EQ(lengthField(), 0U);
+  for (const int length : {size - 8, size - 7, 2 * size - 8, 2 * size, INT_MAX}) {
+    int capacity = 0;
+    setCoder([&](const char*, int, char* out, int room) {
+      capacity = room;
+      std::memset(out, 'e', static_cast<std::size_t>(room));
+      return length;
+    });
+    EXPECT_EQ(compose(size, 0), length == size - 8 ? size : KOV_ERROR_SIZE) << length;
+    EXPECT_EQ(capacity, 2 * size - 8);
+  }
+}
+
+class TransparentCompose : public ComposeEntry {
+ protected:
+  TransparentCompose() {
+    header_ = headerOf(TRANSPARENT_CHANNEL_MSG_TYPE, "");
+    TRANSPARENT_HEADER_init(&message_);
+    set(message_.Trans_Type, "T");
+    set(message_.Session_ID, "s");
+    param_ = &message_;
+  }
+
+  TRANSPARENT_HEADER message_;
+};
+
+const std::string kTransparentHead =
+    "<?xml version=\"1.0\" encoding=\"GB2312\" "
+    "?>\n<XML_ZANTIR>\n<TRANSPARENT_HEADER\nTrans_Type=\"T\"\nChannel_ID=\"\"\n"
+    "Source_Type=\"\"\nSession_ID=\"s\"\nTrans_Result=\"\"\n/>\n";
+
+TEST_F(TransparentCompose, AppendsThePayloadAsItIs) {
+  set(header_.Msg_uuid, "unused");
+  const std::string payload("<MESSAGE_HEADER/>\0</XML_ZANTIR>", 31);
+  std::memcpy(message_.Payload, payload.data(), payload.size());
+  message_.PayloadLength = 31;
+  const std::string document = kTransparentHead + payload;
+  const int length = static_cast<int>(document.size());
+  EXPECT_EQ(compose(length + 8), KOV_ERROR_SIZE);
+  ASSERT_EQ(compose(length + 9), length + 8);
+  EXPECT_EQ(frame_.substr(8, document.size()), document);
+  EXPECT_EQ(lengthField(), document.size());
+  ASSERT_EQ(compose(9000, 1), length + 8);
+  EXPECT_EQ(frame_[8], static_cast<char>(~'<'));
+  message_.PayloadLength = 0;
+  EXPECT_EQ(compose(9000), static_cast<int>(kTransparentHead.size()) + 8);
+}
+
+TEST_F(TransparentCompose, RefusesImpossibleLengths) {
+  for (const int length : {-1, -5, INT_MIN, 8193, INT_MAX}) {
+    message_.PayloadLength = length;
+    EXPECT_EQ(compose(20000), KOV_ERROR_SIZE) << length;
+  }
+  for (const int length : {8191, 8192}) {
+    message_.PayloadLength = length;
+    EXPECT_EQ(compose(20000), static_cast<int>(kTransparentHead.size()) + length + 8);
+    EXPECT_EQ(compose(8192), KOV_ERROR_SIZE);
+  }
+  std::memset(static_cast<void*>(&message_), 'x', offsetof(TRANSPARENT_HEADER, Payload));
+  message_.PayloadLength = 0;
+  EXPECT_GT(compose(9000), 0);
+}
+
+}  // namespace
+}  // namespace kov::test
