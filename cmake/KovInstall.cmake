@@ -1,0 +1,28 @@
+# Installation in three components: library, headers and platform; a CMake package and pkg-config files beside them.
+include(CMakePackageConfigHelpers)
+
+set(kov_package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/kov_protocol")
+
+install(TARGETS kov_protocol kov_protocol_static EXPORT kov_protocol
+        LIBRARY COMPONENT library NAMELINK_COMPONENT headers
+        ARCHIVE COMPONENT library)
+install(TARGETS kov_platform EXPORT kov_protocol ARCHIVE COMPONENT platform)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/kov_protocol" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+        COMPONENT headers FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/platform/include/kov_platform" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+        COMPONENT platform FILES_MATCHING PATTERN "*.h")
+
+install(EXPORT kov_protocol NAMESPACE kov:: FILE kov_protocol-config.cmake DESTINATION "${kov_package_dir}"
+        COMPONENT headers)
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/kov_protocol-config-version.cmake"
+                                 COMPATIBILITY SameMinorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/kov_protocol-config-version.cmake" DESTINATION "${kov_package_dir}"
+        COMPONENT headers)
+
+function(kov_pkg_config name component)
+  configure_file("${PROJECT_SOURCE_DIR}/cmake/${name}.pc.in" "${PROJECT_BINARY_DIR}/${name}.pc" @ONLY)
+  install(FILES "${PROJECT_BINARY_DIR}/${name}.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"
+          COMPONENT ${component})
+endfunction()
+kov_pkg_config(kov_protocol headers)
+kov_pkg_config(kov_platform platform)
