@@ -85,6 +85,7 @@ TEST_F(SystemLogTest, RawDataIsTakenFromWhatWasReceived) {
   EXPECT_EQ(dataOf("3", separator + "abcdef"), "abc");
   EXPECT_EQ(dataOf("2147483647", separator + "abcdef"), "abcdef");
   EXPECT_EQ(dataOf("50000", separator + std::string(50000, 'a')), std::string(40960, 'a'));
+  EXPECT_EQ(dataOf("3", std::string("\n\0\0\0abc", 7)), "abc");  // the first byte is where the text is cut
   for (const char* none : {"0", "-1"}) EXPECT_EQ(dataOf(none, separator + "abcdef"), "");
   for (std::size_t received = 0; received <= 4; ++received) EXPECT_EQ(dataOf("5", separator.substr(0, received)), "");
   EXPECT_EQ(dataOf("6", std::string(3, '\0') + "abc"), "<?xml ");

@@ -65,8 +65,8 @@ KOV_API int SystemLogMessageCompose(const SYSTEM_LOG_PARAM *param, int direction
                                     int *extraLen);
 
 /**
- * Reads a log message into a new SYSTEM_LOG_PARAM: POS, or else RESPONSE_PARAM, or else cmd, or else the text of
- * MESSAGE_BODY. The texts of the last two but cmd go to Data.
+ * Reads a log message into a new SYSTEM_LOG_PARAM: POS, or else RESPONSE_PARAM (its text goes to Data) with
+ * RESPONSE_DATA_LEN, or else cmd, or else the text of MESSAGE_BODY, which goes to Data.
  *
  * DataLen bytes of raw data go to Data, at most as many as it holds; DataLen keeps the number that came. They start
  * behind the document's NUL and three more zero bytes. Where those three are not zero, the start of the document takes

@@ -8,6 +8,8 @@
 namespace kov {
 namespace {
 
+static_assert(sizeof(KOV_HEARTBEAT_CMD_HEARTBEAT_PARAM) == 260);
+
 void appendState(const KOV_HEARTBEAT_CMD_HEARTBEAT_PARAM& record, HeaderExtras& extras) {
   extras.lineIfSet("Ipcs_stat", record.Ipcs_stat);
   extras.lineIfSet("streamstat", record.streamstat);
