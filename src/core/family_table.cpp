@@ -3,15 +3,34 @@
 #include <iterator>
 
 #include "config/system_config.h"
+#include "live/reverse_audio.h"
 #include "playback/nvr_replay.h"
+#include "playback/replay_control.h"
+#include "session/debug.h"
+#include "session/heartbeat.h"
+#include "session/system_encrypt.h"
+#include "session/system_log.h"
+#include "session/user_auth.h"
 
 namespace kov {
 namespace {
 
 constexpr FamilyRow kFamilies[] = {
+    {"KOV_HEARTBEAT_MESSAGE", kHeartbeat, Framing::Framed, "CMD_HEARTBEAT"},
+    {"AUXPTZ_HEARTBEAT_MESSAGE", kHeartbeat, Framing::Framed, "CMD_HEARTBEAT"},
+    {"NVR_PRODUCE_TEST_MESSAGE", kHeartbeat, Framing::Framed, "CMD_HEARTBEAT"},
+    {"USER_AUTH_MESSAGE", kUserAuth},
+    {"SYSTEM_ENCRYPT_MESSAGE", kSystemEncrypt},
     {"NVR_REPLAY_MESSAGE", kNvrReplay},
+    {"REVERSE_AUDIO_MESSAGE", kReverseAudio},
     {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
     {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
+    {"REPLAY_CONTROL_MESSAGE", kReplayControl},
+    {"DBG_CMD_MESSAGE", kDebugText},
+    {"SYSTEM_LOG_MESSAGE", kSystemLog},
+    {"SYSTEM_LOG_DATA", kSystemLog},
+    {"OPEN_DBG_MESSAGE", kDebugSwitch},
+    {"CLOSE_DBG_MESSAGE", kDebugSwitch},
 };
 
 }  // namespace
