@@ -31,13 +31,18 @@ bool skipSign(const char*& at) {
 }
 
 /** Reads the digits at `at`, saturating; false when there is none. */
-bool scanDigits(const char*& at, unsigned base, std::uint64_t& magnitude) {
-  if (digitOf(*at) >= base) return false;
-  magnitude = 0;
-  for (unsigned digit; (digit = digitOf(*at)) < base; ++at) {
-    const bool fits = magnitude <= (kMaxMagnitude - digit) / base;
-    magnitude = fits ? magnitude * base + digit : kMaxMagnitude;
+template <unsigned kBase>
+bool scanDigits(const char*& at, std::uint64_t& magnitude) {
+  constexpr std::uint64_t kLastSafe = kMaxMagnitude / kBase;
+  constexpr unsigned kLastDigit = kMaxMagnitude % kBase;
+  unsigned digit = digitOf(*at);
+  if (digit >= kBase) return false;
+  std::uint64_t sum = 0;
+  for (; digit < kBase; digit = digitOf(*++at)) {
+    const bool fits = sum < kLastSafe || (sum == kLastSafe && digit <= kLastDigit);
+    sum = fits ? sum * kBase + digit : kMaxMagnitude;
   }
+  magnitude = sum;
   return true;
 }
 
@@ -67,7 +72,7 @@ bool scanExponent(const char*& at, int& exponent) {
   const bool negative = *at == '-';
   if (negative || *at == '+') ++at;
   std::uint64_t magnitude = 0;
-  if (!scanDigits(at, 10, magnitude)) return false;
+  if (!scanDigits<10>(at, magnitude)) return false;
   const int power = static_cast<int>(magnitude < kLimit ? magnitude : kLimit);
   exponent += negative ? -power : power;
   return true;
@@ -104,7 +109,7 @@ bool scanDecimal(const char*& text, bool& negative, std::uint64_t& magnitude) no
   if (text == nullptr) return false;
   const char* at = text;
   const bool minus = skipSign(at);
-  if (!scanDigits(at, 10, magnitude)) return false;
+  if (!scanDigits<10>(at, magnitude)) return false;
   negative = minus;
   text = at;
   return true;
@@ -116,7 +121,7 @@ bool scanHexadecimal(const char*& text, bool& negative, std::uint64_t& magnitude
   const bool minus = skipSign(at);
   const bool prefixed = at[0] == '0' && (at[1] == 'x' || at[1] == 'X') && digitOf(at[2]) < 16;
   if (prefixed) at += 2;
-  if (!scanDigits(at, 16, magnitude)) return false;
+  if (!scanDigits<16>(at, magnitude)) return false;
   negative = minus;
   text = at;
   return true;

@@ -7,6 +7,15 @@
 #include <algorithm>
 
 namespace kov::xml {
+namespace {
+
+/** The only NUL between a name and its value ends the name, and mostly it stands where the equals sign was. */
+std::size_t nameLength(const char* name, std::size_t valueDistance) {
+  const std::size_t usual = valueDistance - 2;
+  return name[usual] == '\0' ? usual : std::strlen(name);
+}
+
+}  // namespace
 
 bool allDistinct(const char* text, Word* words, Word first, Word count, std::size_t room) noexcept {
   constexpr std::size_t kStepsPerByte = 64;
@@ -20,7 +29,7 @@ bool allDistinct(const char* text, Word* words, Word first, Word count, std::siz
   std::size_t steps = 0;
   for (Word index = first; index < end; index += kAttributeWords) {
     const char* name = text + words[index];
-    const std::size_t length = std::strlen(name);
+    const std::size_t length = nameLength(name, words[index + 1] - words[index]);
     bytes += length;
     auto slot = static_cast<std::size_t>(std::uint64_t{hashName(name, length)} * slotCount >> 32);
     for (; slots[slot] != 0; slot = slot + 1 < slotCount ? slot + 1 : 0) {

@@ -1,10 +1,73 @@
 /**
  * @file xml_parser.cpp
- * @brief The parser object: a shared, counted document, and neutral answers where there is none.
+ * @brief Look-ups in a document, and the object that shares and counts it and answers neutrally where there is none.
  */
 #include "kov_platform/xml_parser.h"
 
+#include <cstring>
+
 #include "xml_document.h"
+
+using kov::xml::AttributeRecord;
+using kov::xml::ElementRecord;
+
+bool KovXMLParser::Document::named(Word nameOffset, const char* name) const noexcept {
+  const char* own = text_ + nameOffset;
+  return *own == *name && std::strcmp(own, name) == 0;
+}
+
+/** The first element of that name from `from` along the siblings up to `end`; 0 stands behind the last sibling. */
+ElementRecord* KovXMLParser::Document::find(Word from, Word end, const char* name) const noexcept {
+  while (from != end) {
+    auto* element = reinterpret_cast<Element*>(words_ + from);
+    if (named(element->name, name)) return element;
+    from = element->next;
+  }
+  return nullptr;
+}
+
+void* KovXMLParser::Document::firstChild(const void* parent, const char* name) noexcept {
+  const auto* owner = static_cast<const Element*>(parent);
+  if ((owner->shape & Element::kHasChildren) == 0) return nullptr;
+  const auto ownerIndex = static_cast<Word>(reinterpret_cast<const Word*>(owner) - words_);
+  const Word first = ownerIndex + kov::xml::kElementWords + owner->attributeCount() * kov::xml::kAttributeWords;
+  const Word start = owner == childOwner_ ? childStart_ : 0;
+
+  Element* found = find(start, 0, name);
+  if (found == nullptr) {
+    found = find(first, start, name);
+  } else if ((found->shape & Element::kFirstOfName) == 0) {
+    found = find(first, 0, name);  // a sibling before the start may bear the same name
+  }
+  if (found == nullptr) return nullptr;
+  childOwner_ = owner;
+  childStart_ = found->next;
+  return found;
+}
+
+void* KovXMLParser::Document::nextSibling(const void* element, const char* name) const noexcept {
+  return find(static_cast<const Element*>(element)->next, 0, name);
+}
+
+const char* KovXMLParser::Document::attribute(const void* element, const char* name) noexcept {
+  const auto* owner = static_cast<const Element*>(element);
+  const auto* attributes = reinterpret_cast<const AttributeRecord*>(owner + 1);
+  const Word count = owner->attributeCount();
+  Word at = owner == attributeOwner_ ? attributeStart_ : 0;
+  for (Word tried = 0; tried < count; ++tried, ++at) {
+    if (at >= count) at = 0;
+    if (!named(attributes[at].name, name)) continue;
+    attributeOwner_ = owner;
+    attributeStart_ = at + 1;
+    return text_ + attributes[at].value;
+  }
+  return nullptr;
+}
+
+const char* KovXMLParser::Document::text(const void* element) const noexcept {
+  const Word offset = static_cast<const Element*>(element)->text;
+  return offset == 0 ? "" : text_ + offset;
+}
 
 KovXMLParser::KovXMLParser(const KovXMLParser& other) noexcept : document_(other.document_) {
   if (document_ != nullptr) document_->addUser();

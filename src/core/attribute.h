@@ -130,7 +130,9 @@ class Attribute {
     kOrZero = 32,
     kThenBlank = 64,
     kThenNothing = 128,
-    kBlankBeforeEquals = 256
+    kBlankBeforeEquals = 256,
+    // What makes an attribute look other than Name="value" on a line of its own.
+    kLayout = kHexadecimal | kAsSigned | kThenBlank | kThenNothing | kBlankBeforeEquals
   };
 
   constexpr Attribute(const char* name, std::size_t nameSize, void* field, Kind kind, std::size_t count)

@@ -139,16 +139,44 @@ bool BodyIo::isWritten(const Attribute& attribute) {
 
 void BodyIo::write(Attributes attributes) {
   for (const Attribute& attribute : attributes) {
-    if (!isWritten(attribute)) continue;
-    writer_->text(attribute.name_, attribute.nameLength_);
-    if (attribute.has(Attribute::kBlankBeforeEquals)) writer_->character(' ');
-    writer_->literal("=\"");
-    writeValue(attribute);
-    if (attribute.has(Attribute::kThenNothing)) {
-      writer_->character('"');
-    } else {
-      writer_->text(attribute.has(Attribute::kThenBlank) ? "\" " : "\"\n", 2);
-    }
+    if (isWritten(attribute) && !writeCommon(attribute)) writeAny(attribute);
+  }
+}
+
+// Nearly all attributes are a text or a decimal int on a line of their own, and fit: one check of the room, no calls.
+bool BodyIo::writeCommon(const Attribute& attribute) {
+  const bool isText = attribute.kind_ == Kind::Text;
+  const bool isInt = attribute.kind_ == Kind::Int32;
+  if ((!isText && !isInt) || (attribute.flags_ & Attribute::kLayout) != 0) return false;
+  const char* const text = static_cast<const char*>(attribute.field_);
+  const std::size_t length = isText ? boundedLength(text, attribute.count_) : BodyWriter::kMostDigits;
+  constexpr std::size_t kPunctuation = 4;
+  char* to = writer_->place(attribute.nameLength_ + length + kPunctuation);
+  if (to == nullptr) return false;
+  copyShort(to, attribute.name_, attribute.nameLength_);
+  to += attribute.nameLength_;
+  std::memcpy(to, "=\"", 2);
+  to += 2;
+  if (isText) {
+    copyShort(to, text, length);
+    to += length;
+  } else {
+    to = BodyWriter::putDecimal(to, load<std::int32_t>(attribute.field_));
+  }
+  std::memcpy(to, "\"\n", 2);
+  writer_->advanceTo(to + 2);
+  return true;
+}
+
+void BodyIo::writeAny(const Attribute& attribute) {
+  writer_->text(attribute.name_, attribute.nameLength_);
+  if (attribute.has(Attribute::kBlankBeforeEquals)) writer_->character(' ');
+  writer_->literal("=\"");
+  writeValue(attribute);
+  if (attribute.has(Attribute::kThenNothing)) {
+    writer_->character('"');
+  } else {
+    writer_->text(attribute.has(Attribute::kThenBlank) ? "\" " : "\"\n", 2);
   }
 }
 

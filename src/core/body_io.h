@@ -80,6 +80,8 @@ class BodyIo {
   ElementReader find(const char* name);
   void open(const char* name, const char* end);
   void write(Attributes attributes);
+  bool writeCommon(const Attribute& attribute);
+  void writeAny(const Attribute& attribute);
   void writeValue(const Attribute& attribute);
   void writeUnsigned(const Attribute& attribute, std::uint64_t value, std::int64_t asSigned);
   void writeList(const Attribute& attribute);

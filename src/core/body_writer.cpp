@@ -67,20 +67,41 @@ std::uint64_t millionths(std::uint32_t mantissa, unsigned shift) {
 
 }  // namespace
 
-void BodyWriter::decimal(std::int64_t value) {
-  char digits[20];
+// What does not fit is cut, and counted.
+void BodyWriter::cut(const char* text, std::size_t length) {
+  const std::size_t fits = room();
+  std::memcpy(cursor_, text, fits);
+  cursor_ += fits;
+  cut_ += length - fits;
+}
+
+char* BodyWriter::putUnsigned(char* to, std::uint64_t value) {
+  if (value < 10) {
+    *to = static_cast<char>('0' + value);
+    return to + 1;
+  }
+  char digits[kMostDigits];
   char* const end = digits + sizeof digits;
-  const std::uint64_t magnitude = value < 0 ? 0 - static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value);
-  char* begin = decimalBefore(end, magnitude);
-  if (value < 0) *--begin = '-';
-  text(begin, static_cast<std::size_t>(end - begin));
+  const char* const begin = decimalBefore(end, value);
+  const std::size_t length = static_cast<std::size_t>(end - begin);
+  copyShort(to, begin, length);
+  return to + length;
+}
+
+char* BodyWriter::putDecimal(char* to, std::int64_t value) {
+  if (value >= 0) return putUnsigned(to, static_cast<std::uint64_t>(value));
+  *to = '-';
+  return putUnsigned(to + 1, 0 - static_cast<std::uint64_t>(value));
+}
+
+void BodyWriter::decimal(std::int64_t value) {
+  char digits[kMostDigits];
+  text(digits, static_cast<std::size_t>(putDecimal(digits, value) - digits));
 }
 
 void BodyWriter::unsignedDecimal(std::uint64_t value) {
-  char digits[20];
-  char* const end = digits + sizeof digits;
-  const char* begin = decimalBefore(end, value);
-  text(begin, static_cast<std::size_t>(end - begin));
+  char digits[kMostDigits];
+  text(digits, static_cast<std::size_t>(putUnsigned(digits, value) - digits));
 }
 
 void BodyWriter::hexadecimal(std::uint64_t value) {

@@ -17,19 +17,24 @@ class BodyWriter {
   BodyWriter(char* buffer, std::size_t size) : begin_(buffer), cursor_(buffer), end_(buffer + size - 1) {}
 
   void text(const char* text, std::size_t length) {
-    const std::size_t room = static_cast<std::size_t>(end_ - cursor_);
-    if (length > room) {
-      cut_ += length - room;
-      length = room;
+    if (length <= room()) {
+      copyShort(cursor_, text, length);
+      cursor_ += length;
+    } else {
+      cut(text, length);
     }
-    std::memcpy(cursor_, text, length);
-    cursor_ += length;
   }
   void text(const char* text) { this->text(text, std::strlen(text)); }
 
   template <std::size_t Size>
   void literal(const char (&text)[Size]) {
-    this->text(text, Size - 1);
+    constexpr std::size_t kLength = Size - 1;
+    if (kLength <= room()) {
+      std::memcpy(cursor_, text, kLength);
+      cursor_ += kLength;
+    } else {
+      cut(text, kLength);
+    }
   }
 
   template <std::size_t Capacity>
@@ -54,7 +59,21 @@ class BodyWriter {
 
   void terminate() { *cursor_ = '\0'; }
 
+  // For a caller that knows how much it writes at most: where to write it, null when that does not fit. What was
+  // written is then told by advanceTo().
+  char* place(std::size_t atMost) { return atMost <= room() ? cursor_ : nullptr; }
+  void advanceTo(char* end) { cursor_ = end; }
+
+  // The longest number.
+  static constexpr std::size_t kMostDigits = 20;
+  // Writes a decimal number where room for kMostDigits is and returns its end.
+  static char* putDecimal(char* to, std::int64_t value);
+  static char* putUnsigned(char* to, std::uint64_t value);
+
  private:
+  std::size_t room() const { return static_cast<std::size_t>(end_ - cursor_); }
+  void cut(const char* text, std::size_t length);
+
   char* begin_;
   char* cursor_;
   char* end_;

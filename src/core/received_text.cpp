@@ -10,16 +10,27 @@ namespace {
 
 constexpr char kRootEnd[] = "</XML_ZANTIR>";
 constexpr std::size_t kRootEndLength = sizeof kRootEnd - 1;
+constexpr std::size_t kRootEndAnchor = 6;  // Z
 
 }  // namespace
 
-std::size_t ReceivedText::find(const char* needle, std::size_t from) const {
-  const void* const found = memmem(text_ + from, length_ - from, needle, std::strlen(needle));
-  return found == nullptr ? kNowhere : static_cast<std::size_t>(static_cast<const char*>(found) - text_);
+std::size_t ReceivedText::find(const char* needle, std::size_t anchor, std::size_t from) const {
+  const std::size_t length = std::strlen(needle);
+  const char* const end = text_ + length_;
+  const char* at = text_ + from;
+  while (static_cast<std::size_t>(end - at) >= length) {
+    const std::size_t starts = static_cast<std::size_t>(end - at) - length + 1;
+    const void* const hop = std::memchr(at + anchor, needle[anchor], starts);
+    if (hop == nullptr) return kNowhere;
+    at = static_cast<const char*>(hop) - anchor;
+    if (std::memcmp(at, needle, length) == 0) return static_cast<std::size_t>(at - text_);
+    ++at;
+  }
+  return kNowhere;
 }
 
 bool ReceivedText::cutAtRootEnd() {
-  const std::size_t rootEnd = find(kRootEnd);
+  const std::size_t rootEnd = find(kRootEnd, kRootEndAnchor);
   if (rootEnd == kNowhere) return false;
   length_ = rootEnd + kRootEndLength;
   tail_ = text_ + length_;

@@ -26,7 +26,7 @@ bool scanInt(const char*& text, std::int32_t& value) noexcept;
 /** The number at the start of `text`, 0 when there is none. */
 std::int32_t intOf(const char* text) noexcept;
 
-/** Reads a whole finite decimal number with optional fraction and exponent. */
+/** Reads a finite decimal number with optional fraction and exponent; nothing but blanks may follow it. */
 bool floatOf(const char* text, float& value) noexcept;
 
 }  // namespace kov

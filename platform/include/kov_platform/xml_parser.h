@@ -12,6 +12,7 @@
  *
  * Element handles are opaque and live as long as any copy of the parser that produced them. Null handles are valid
  * arguments everywhere and answer as a missing element. All texts are raw: no entity is decoded, no byte is converted.
+ * An element's own text is its first run of text or CDATA that is not all blanks.
  * Copies share the document and cost a counter; one document, copies included, belongs to one thread at a time.
  */
 class KovXMLParser {
@@ -56,7 +57,7 @@ int getXmlUIntTypeParamAttribute(KovXMLParser parser, void* element, const char*
 int getXmlUCharTypeParamAttribute(KovXMLParser parser, void* element, const char* name, unsigned char* value) noexcept;
 int getXmlUllTypeParamAttribute(KovXMLParser parser, void* element, const char* name,
                                 unsigned long long* value) noexcept;
-/** A finite decimal number with optional fraction and exponent. */
+/** A finite decimal number with optional fraction and exponent; anything but blanks behind it is unreadable. */
 int getXmlFloatTypeParamAttribute(KovXMLParser parser, void* element, const char* name, float* value) noexcept;
 int getXmlStringTypeParamAttribute(KovXMLParser parser, void* element, const char* name, char* text, int size) noexcept;
 int getXmlIntTypeParamByGetText(KovXMLParser parser, void* element, int* value) noexcept;
