@@ -4,8 +4,7 @@ function(kov_warnings target)
   if(NOT KOV_STRICT_WARNINGS)
     return()
   endif()
-  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wvla
-                                           -Werror)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wvla -Werror)
   # Test macros with an empty variable part are the test framework's doing.
   target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>)
 endfunction()

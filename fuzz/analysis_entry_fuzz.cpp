@@ -1,0 +1,67 @@
+// The analysis entry on any payload, plain or through a decoder that may lie; what it hands out goes back to compose.
+#include <kov_platform/services.h>
+#include <kov_protocol/kov_protocol.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+namespace {
+
+constexpr int kOutput = 16384;
+
+// Copies the payload over, as often as it fits, and claims the length that its first bytes spell.
+int lie(const char* data, int dataLen, char* out, int outSize) {
+  for (int done = 0; done + dataLen <= outSize; done += dataLen)
+    std::memcpy(out + done, data, static_cast<std::size_t>(dataLen));
+  std::int16_t claimed = 0;
+  std::memcpy(&claimed, data, std::min<std::size_t>(sizeof claimed, static_cast<std::size_t>(dataLen)));
+  return claimed < 0 ? dataLen : claimed;
+}
+
+void relay(const KOV_PROTOCOL_HEADER& header, const void* record) {
+  const std::unique_ptr<char[]> out(new char[kOutput]);
+  for (int direction = 0; direction < 2; ++direction) {
+    for (const int size : {kOutput, 300}) {
+      const int length = KovProtocolXMLCompose(&header, record, direction, KOV_PLAIN, nullptr, out.get(), size);
+      const bool bare = length > 0 && out[0] == '<';
+      if (length > size && !bare) std::abort();
+    }
+  }
+}
+
+}  // namespace
+
+int KovProtocolDecode(int, const char* data, int dataLen, char* out, int outSize, void*) {
+  return lie(data, dataLen, out, outSize);
+}
+int P2pProtocolDecode(int, const char* data, int dataLen, char* out, int outSize) {
+  if (dataLen > outSize) return -1;
+  std::memcpy(out, data, static_cast<std::size_t>(dataLen));
+  return dataLen;
+}
+int KovProtocolEncode(int, const char* data, int dataLen, char* out, int outSize, void*) {
+  return lie(data, dataLen, out, outSize);
+}
+int P2pProtocolEncode(int, const char* data, int dataLen, char* out, int outSize) {
+  return lie(data, dataLen, out, outSize);
+}
+
+// The first byte of the input chooses the decode mode, the rest is the payload in a block of exactly its size.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* input, std::size_t size) {
+  if (size < 2) return 0;
+  const int decodeMode = static_cast<int>(input[0] % 3) - 1;
+  const std::size_t length = size - 1;
+  const std::unique_ptr<char[]> payload(new char[length]);
+  std::memcpy(payload.get(), input + 1, length);
+  KOV_PROTOCOL_HEADER header;
+  void* result = nullptr;
+  const int code =
+      KovProtocolMSGAnalysisStart(payload.get(), static_cast<int>(length), decodeMode, nullptr, &header, &result);
+  if (code == KOV_OK && result != nullptr) relay(header, result);
+  KovProtocolMSGAnalysisStop(&result);
+  return 0;
+}
