@@ -11,9 +11,15 @@
 using kov::xml::AttributeRecord;
 using kov::xml::ElementRecord;
 
+// Names are short: comparing them here costs less than a call.
 bool KovXMLParser::Document::named(Word nameOffset, const char* name) const noexcept {
   const char* own = text_ + nameOffset;
-  return *own == *name && std::strcmp(own, name) == 0;
+  while (*own == *name) {
+    if (*own == '\0') return true;
+    ++own;
+    ++name;
+  }
+  return false;
 }
 
 /** The first element of that name from `from` along the siblings up to `end`; 0 stands behind the last sibling. */

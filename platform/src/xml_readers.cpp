@@ -36,19 +36,12 @@ int signedOf(const char* text, int* value) {
 
 /** Copies what fits of `source`; one byte of `size` is always the terminator's. */
 int copyText(const char* source, char* text, int size) {
-  constexpr std::size_t kShortText = 16;  // most fields are so short that two library calls cost more than the copy
   if (source == nullptr || text == nullptr || size < 1) return kUnreadable;
   const auto room = static_cast<std::size_t>(size) - 1;
-  std::size_t length = 0;
-  for (; length < room && length < kShortText; ++length) {
-    if ((text[length] = source[length]) == '\0') return kOk;
-  }
-  const char* rest = source + length;
-  const void* end = std::memchr(rest, '\0', room - length);
-  const std::size_t copied =
-      end != nullptr ? static_cast<std::size_t>(static_cast<const char*>(end) - rest) : room - length;
-  std::memcpy(text + length, rest, copied);
-  text[length + copied] = '\0';
+  const void* const end = std::memchr(source, '\0', room);
+  const std::size_t length = end != nullptr ? static_cast<std::size_t>(static_cast<const char*>(end) - source) : room;
+  std::memcpy(text, source, length);
+  text[length] = '\0';
   return kOk;
 }
 

@@ -98,6 +98,11 @@ bool Scanner::isLoneAngle(const char* angle) const noexcept {
 
 /** `<?xml version=".." encoding=".." standalone=".." ?>`, the last two optional; the encoding is nobody's concern. */
 char* Scanner::xmlDeclaration(char* at) noexcept {
+  constexpr char kUsual[] = "<?xml version=\"1.0\" encoding=\"GB2312\" ?>";
+  constexpr std::size_t kUsualLength = sizeof kUsual - 1;
+  if (end_ - at > static_cast<std::ptrdiff_t>(kUsualLength) && std::memcmp(at, kUsual, kUsualLength) == 0) {
+    return at + kUsualLength;
+  }
   if (std::strncmp(at, "<?xml", 5) != 0 || !isXmlBlank(at[5])) return at;
   char* next = pseudoAttribute(at + 5, "version");
   if (next == nullptr) return nullptr;
