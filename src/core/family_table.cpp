@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "config/system_config.h"
+#include "control/system_control.h"
 #include "playback/nvr_replay.h"
 
 namespace kov {
@@ -10,6 +11,7 @@ namespace {
 
 constexpr FamilyRow kFamilies[] = {
     {"NVR_REPLAY_MESSAGE", kNvrReplay},
+    {"SYSTEM_CONTROL_MESSAGE", kSystemControl},
     {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
     {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
 };
