@@ -5,6 +5,7 @@
 #include "config/system_config.h"
 #include "control/system_control.h"
 #include "playback/nvr_replay.h"
+#include "production/nvr_produce_test.h"
 
 namespace kov {
 namespace {
@@ -14,6 +15,7 @@ constexpr FamilyRow kFamilies[] = {
     {"SYSTEM_CONTROL_MESSAGE", kSystemControl},
     {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
     {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
+    {"NVR_PRODUCE_TEST_MESSAGE", kNvrProduceTest},
 };
 
 }  // namespace
