@@ -173,7 +173,8 @@ TEST_F(SystemControlTest, StorageFormatReplacesTheStorageRecord) {
 TEST_F(SystemControlTest, StorageTellsTheFailuresOfBothMessages) {
   const std::string storage = "E SystemControl_GetIpcStorageCfg_MessageAnalysis ";
   const std::string format = "E SystemControl_StorageDeviceFormat_MessageAnalysis ";
-  void* result = nullptr;
+  int untouched = 0;
+  void* result = &untouched;
   EXPECT_EQ(SystemControlMessageAnalysis("<XML_ZANTIR>", "1014", &result), KOV_ERROR_BAD_DOCUMENT);
   EXPECT_EQ(SystemControlMessageAnalysis("<XML_ZANTIR/>", "1014", &result), KOV_ERROR_BAD_DOCUMENT);
   EXPECT_EQ(SystemControlMessageAnalysis("<XML_ZANTIR><MESSAGE_BODY/></XML_ZANTIR>", "1014", &result),
@@ -181,7 +182,7 @@ TEST_F(SystemControlTest, StorageTellsTheFailuresOfBothMessages) {
   EXPECT_EQ(logLines(), (Lines{storage + "Parse MsgBuf error\n", format + "Parse MsgBuf error\n",
                                storage + "get MESSAGE_BODY error\n", format + "get MESSAGE_BODY error\n",
                                storage + "get RESPONSE_PARAM error\n", format + "get REQUEST_PARAM error\n"}));
-  EXPECT_EQ(result, nullptr);
+  EXPECT_EQ(result, &untouched);
 }
 
 TEST_F(SystemControlTest, StorageWithoutMemoryForEitherRecord) {

@@ -49,7 +49,7 @@ void getSysAbality(BodyIo& io, SYSTEM_CONTROL_1020_PARAM& r) {
                                             {"TalkingEnble", r.TalkingEnble},
                                             {"ShutDownSystem", r.ShutDownSystem}});
   if (io.reading() && hasAuthority) r.NoRemoteAuthority = 0;
-  // The identifiers stand on one line each, and that line does not end.
+  // The identifiers share one line, and it does not end.
   if (io.reading() || isSet(r.algorithmId)) {
     io.element("AvailableAlId", "<AvailableAlId ", {attr("algorithmId", r.algorithmId).thenNothing()}, "/>");
   }
