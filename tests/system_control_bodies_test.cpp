@@ -132,7 +132,13 @@ TEST_F(SystemControlBodies, KeyFrameIsSpeltInTwoWays) {
     EXPECT_EQ(read.ChannelId, 2);
     EXPECT_EQ(read.StreamIndex, 1);
   }
-  EXPECT_EQ(analysed<SYSTEM_CONTROL_1032_PARAM>(kType, "1032", "<REQUEST_PARAM/>").bSendIpc, -1);
+  const std::pair<const char*, int> partly[] = {
+      {"", -1}, {"ChannelId", 0}, {"StreamIndex", 0}, {"Camera", 1}, {"Stream", 1}};
+  for (const auto& [name, form] : partly) {
+    const std::string attribute = *name == '\0' ? "" : std::string(name) + "=\"5\"";
+    const auto read = analysed<SYSTEM_CONTROL_1032_PARAM>(kType, "1032", "<REQUEST_PARAM " + attribute + "/>");
+    EXPECT_EQ(read.bSendIpc, form) << name;
+  }
   record.bSendIpc = 2;
   EXPECT_EQ(bodyOf(kType, "1032", 1, &record), "");
   EXPECT_TRUE(failures().empty());
