@@ -1,6 +1,7 @@
 // SYSTEM_CONFIG_GET_MESSAGE and SYSTEM_CONFIG_SET_MESSAGE: one table of codes, whose rows stand beside their messages.
 #include "config/system_config.h"
 
+#include "control/system_control.h"
 #include "core/family.h"
 #include "kov_platform/services.h"
 #include "kov_protocol/system_config.h"
@@ -12,8 +13,13 @@ namespace {
 constexpr CodeRow kReservedRows[] = {{3802, nullptr}};
 constexpr CodeGroup kReservedCodes = kReservedRows;
 
+// The abilities of a device are asked for under the control type and under these.
+constexpr CodeRow kSharedRows[] = {{1020, &kGetSysAbality}};
+constexpr CodeGroup kSharedWithControl = kSharedRows;
+
 constexpr const CodeGroup* kGroups[] = {
     &kReservedCodes,
+    &kSharedWithControl,
 };
 
 void logUnknown(const char*, int code) {

@@ -3,9 +3,11 @@
 #include <iterator>
 
 #include "config/system_config.h"
+#include "control/system_control.h"
 #include "live/reverse_audio.h"
 #include "playback/nvr_replay.h"
 #include "playback/replay_control.h"
+#include "production/nvr_produce_test.h"
 #include "session/debug.h"
 #include "session/heartbeat.h"
 #include "session/system_encrypt.h"
@@ -15,17 +17,22 @@
 namespace kov {
 namespace {
 
+constexpr const char* kHeartbeatCode = "CMD_HEARTBEAT";
+
+// The heartbeat goes before the families that share its types.
 constexpr FamilyRow kFamilies[] = {
-    {"KOV_HEARTBEAT_MESSAGE", kHeartbeat, Framing::Framed, "CMD_HEARTBEAT"},
-    {"AUXPTZ_HEARTBEAT_MESSAGE", kHeartbeat, Framing::Framed, "CMD_HEARTBEAT"},
-    {"NVR_PRODUCE_TEST_MESSAGE", kHeartbeat, Framing::Framed, "CMD_HEARTBEAT"},
+    {"KOV_HEARTBEAT_MESSAGE", kHeartbeat, Framing::Framed, kHeartbeatCode},
+    {"AUXPTZ_HEARTBEAT_MESSAGE", kHeartbeat, Framing::Framed, kHeartbeatCode},
+    {"NVR_PRODUCE_TEST_MESSAGE", kHeartbeat, Framing::Framed, kHeartbeatCode},
     {"USER_AUTH_MESSAGE", kUserAuth},
     {"SYSTEM_ENCRYPT_MESSAGE", kSystemEncrypt},
     {"NVR_REPLAY_MESSAGE", kNvrReplay},
     {"REVERSE_AUDIO_MESSAGE", kReverseAudio},
+    {"SYSTEM_CONTROL_MESSAGE", kSystemControl},
     {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
     {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
     {"REPLAY_CONTROL_MESSAGE", kReplayControl},
+    {"NVR_PRODUCE_TEST_MESSAGE", kNvrProduceTest},
     {"DBG_CMD_MESSAGE", kDebugText},
     {"SYSTEM_LOG_MESSAGE", kSystemLog},
     {"SYSTEM_LOG_DATA", kSystemLog},
