@@ -1,6 +1,8 @@
 // SYSTEM_CONFIG_GET_MESSAGE and SYSTEM_CONFIG_SET_MESSAGE: one table of codes, whose rows stand beside their messages.
 #include "config/system_config.h"
 
+#include "config/channel.h"
+#include "config/network.h"
 #include "core/family.h"
 #include "kov_platform/services.h"
 #include "kov_protocol/system_config.h"
@@ -14,6 +16,8 @@ constexpr CodeGroup kReservedCodes = kReservedRows;
 
 constexpr const CodeGroup* kGroups[] = {
     &kReservedCodes,
+    &kNetworkCodes,
+    &kChannelCodes,
 };
 
 void logUnknown(const char*, int code) {
