@@ -156,6 +156,9 @@ TEST_F(SystemConfigNetworkTest, SipTablesAreNeverLeft) {
   EXPECT_EQ(full.Channels[63].SipDeviceReport, 1);
   EXPECT_EQ(full.AlarmInputs[0].SipDeviceReport, -1);
   EXPECT_EQ(full.AlarmInputIDNum, -1);
+  const auto brief = analysed<SYSTEM_CONFIG_GET_2015_PARAM>(
+      kConfigType, "2035", "<GB28181Config ch_SipDeviceReport=\"1\" other=\"" + ones + "\"/>");
+  for (int i = 0; i < 64; ++i) EXPECT_EQ(brief.Channels[i].SipDeviceReport, i == 0 ? 1 : 0);
 }
 
 }  // namespace
