@@ -1,6 +1,8 @@
 // SYSTEM_CONFIG_GET_MESSAGE and SYSTEM_CONFIG_SET_MESSAGE: one table of codes, whose rows stand beside their messages.
 #include "config/system_config.h"
 
+#include "config/channel.h"
+#include "config/network.h"
 #include "control/system_control.h"
 #include "core/family.h"
 #include "kov_platform/services.h"
@@ -20,6 +22,8 @@ constexpr CodeGroup kSharedWithControl = kSharedRows;
 constexpr const CodeGroup* kGroups[] = {
     &kReservedCodes,
     &kSharedWithControl,
+    &kNetworkCodes,
+    &kChannelCodes,
 };
 
 void logUnknown(const char*, int code) {
