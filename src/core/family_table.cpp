@@ -3,12 +3,14 @@
 #include <iterator>
 
 #include "config/system_config.h"
+#include "discovery/system_searchipc.h"
 #include "playback/nvr_replay.h"
 
 namespace kov {
 namespace {
 
 constexpr FamilyRow kFamilies[] = {
+    {"SYSTEM_SEARCHIPC_MESSAGE", kSystemSearchipc, Framing::Bare},
     {"NVR_REPLAY_MESSAGE", kNvrReplay},
     {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
     {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
