@@ -4,7 +4,10 @@
 
 #include "config/system_config.h"
 #include "discovery/system_searchipc.h"
+#include "kov_protocol_system_other_msg/nvr_internal.h"
 #include "playback/nvr_replay.h"
+#include "reports/device_report.h"
+#include "reports/ipc_repair.h"
 
 namespace kov {
 namespace {
@@ -14,6 +17,9 @@ constexpr FamilyRow kFamilies[] = {
     {"NVR_REPLAY_MESSAGE", kNvrReplay},
     {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
     {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
+    {"IPC_REPAIR_MESSAGE", kIpcRepair, Framing::Bare},
+    {"NVR_INTERNAL_MESSAGES", kNvrInternal},
+    {"DEVICE_REPORT_MESSAGE", kDeviceReport},
 };
 
 }  // namespace

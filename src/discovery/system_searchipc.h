@@ -1,4 +1,3 @@
-// SYSTEM_SEARCHIPC_MESSAGE for the family table.
 #pragma once
 
 #include "core/family.h"
