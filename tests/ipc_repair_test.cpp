@@ -12,63 +12,46 @@ const AlsoTested kRepair({kType, "any", kRecordType<IPC_REPAIR_PARAM>});
 
 class IpcRepairTest : public WireTest {
  protected:
-  IpcRepairTest() {
-    set(record.Mac, "mac");
-    set(record.RepairVer, "1.0");
-    set(record.ServerIP, "10.0.0.1");
-    set(record.Ipaddr, "10.0.0.2");
-    set(record.SN, "sn");
-  }
-  IPC_REPAIR_PARAM record;
+  static IPC_REPAIR_PARAM read(const std::string& body) { return analysed<IPC_REPAIR_PARAM>(kType, "any", body); }
 };
 
 TEST_F(IpcRepairTest, FirmwareResponseLeavesTheMacInBothFields) {
-  const std::string request = "<IPC_REPAIR\nIPCMac=\"mac\"\nIpcIdentify=\"1.0\"\n/>\n";
-  EXPECT_EQ(bodyOf(kType, "", 2, &record), request);
-  EXPECT_EQ(documentOf(kType, "", 2, &record).substr(0, 5), "<?xml");
-  set(record.IPCMac, "ipc");
-  const std::string response =
-      "<IPC_REPAIR\nServerMac=\"\"\nServerIP=\"10.0.0.1\"\nServerPort=\"-1\"\nIpaddr=\"10.0.0.2\"\nIPCMac=\"ipc\"\n"
-      "RepairVer=\"1.0\"\n/>\n";
-  for (const int direction : {1, 3, 4}) EXPECT_EQ(bodyOf(kType, "", direction, &record), response);
+  const std::string request = "<IPC_REPAIR\nIPCMac=\"mac\"\nIpcIdentify=\"\"\n/>\n";
+  const auto asked = read(request);
+  EXPECT_EQ(bodyOf(kType, "", 2, &asked), request);
+  EXPECT_EQ(documentOf(kType, "", 2, &asked).substr(0, 5), "<?xml");
+  EXPECT_STREQ(read("<IPC_REPAIR IPCMac=\"mac\" IpcIdentify=\"\" RepairVer=\"2\"/>").RepairVer, "");
 
-  const auto answered = analysed<IPC_REPAIR_PARAM>(kType, "7", response + "<IPC_ALG_REPAIR Alm=\"a\"/>");
+  const std::string response =
+      "<IPC_REPAIR\nServerMac=\"m\"\nServerIP=\"10.0.0.1\"\nServerPort=\"-1\"\nIpaddr=\"10.0.0.2\"\nIPCMac=\"ipc\"\n"
+      "RepairVer=\"1.0\"\n/>\n";
+  const auto answered = read("<IPC_ALG_REPAIR Alm=\"a\"/>" + response);
+  for (const int direction : {1, 3, 4}) EXPECT_EQ(bodyOf(kType, "", direction, &answered), response);
   EXPECT_STREQ(answered.Mac, "ipc");
   EXPECT_STREQ(answered.IPCMac, "ipc");
-  EXPECT_STREQ(answered.RepairVer, "1.0");
-  EXPECT_STREQ(answered.Alm, "");
-  const auto asked = analysed<IPC_REPAIR_PARAM>(
-      kType, "", "<IPC_REPAIR IPCMac=\"mac\" IpcIdentify=\"\" RepairVer=\"2\" ServerPort=\"1\"/>");
-  EXPECT_STREQ(asked.Mac, "mac");
-  EXPECT_STREQ(asked.IPCMac, "");
-  EXPECT_STREQ(asked.RepairVer, "");
-  EXPECT_EQ(asked.ServerPort, -1);
 }
 
 TEST_F(IpcRepairTest, AlgorithmResponseTellsTheClientOnlyWithoutItsMac) {
-  set(record.Alm, "alm");
   const std::string request =
-      "<IPC_ALG_REPAIR\nMac=\"mac\"\nBuildVer=\"1.0\"\nReqAddr=\"\"\nSN=\"sn\"\nAlm=\"alm\"\nDomainName=\"\"\n/>\n";
-  EXPECT_EQ(bodyOf(kType, "", 0, &record), request);
-  const std::string response =
-      "<IPC_ALG_REPAIR\nServerMac=\"\"\nServerIP=\"10.0.0.1\"\nServerPort=\"-1\"\nFilePath=\"\"\nBuildVer=\"1.0\"\n"
-      "SN=\"sn\"\nAlm=\"alm\"\n";
-  const std::string client = "ClientIP=\"10.0.0.2\"\nClientMac=\"\"\n";
-  EXPECT_EQ(bodyOf(kType, "", 1, &record), response + client + "/>\n");
-  set(record.IPCMac, "ipc");
-  EXPECT_EQ(bodyOf(kType, "", 1, &record), response + "/>\n");
-
-  const auto asked = analysed<IPC_REPAIR_PARAM>(kType, "", request);
+      "<IPC_ALG_REPAIR\nMac=\"mac\"\nBuildVer=\"1.0\"\nReqAddr=\"r\"\nSN=\"sn\"\nAlm=\"alm\"\nDomainName=\"d\"\n/>\n";
+  const auto asked = read(request);
   EXPECT_EQ(bodyOf(kType, "", 0, &asked), request);
-  const auto answered = analysed<IPC_REPAIR_PARAM>(kType, "", response + client + "/>\n");
+  const std::string response =
+      "<IPC_ALG_REPAIR\nServerMac=\"m\"\nServerIP=\"10.0.0.1\"\nServerPort=\"80\"\nFilePath=\"f\"\nBuildVer=\"1.0\"\n"
+      "SN=\"sn\"\nAlm=\"alm\"\n";
+  const std::string withClient = response + "ClientIP=\"10.0.0.2\"\nClientMac=\"\"\n/>\n";
+  auto answered = read(withClient);
+  EXPECT_EQ(bodyOf(kType, "", 1, &answered), withClient);
   EXPECT_STREQ(answered.Ipaddr, "10.0.0.2");
-  EXPECT_STREQ(answered.RepairVer, "1.0");
-  EXPECT_STREQ(analysed<IPC_REPAIR_PARAM>(kType, "", "<IPC_ALG_REPAIR ClientMac=\"c\"/>").IPCMac, "c");
+  set(answered.IPCMac, "ipc");
+  EXPECT_EQ(bodyOf(kType, "", 1, &answered), response + "/>\n");
+  EXPECT_STREQ(read("<IPC_ALG_REPAIR ClientMac=\"c\"/>").IPCMac, "c");
 }
 
 TEST_F(IpcRepairTest, TellsEmptyArgumentsAndMissingElements) {
   char body[8] = "?";
   void* result = nullptr;
+  const IPC_REPAIR_PARAM record;
   EXPECT_EQ(IpcRepairMessageCompose(&record, 0, nullptr, 8), KOV_ERROR_EMPTY_ARGUMENT);
   EXPECT_EQ(IpcRepairMessageCompose(&record, 0, body, 0), KOV_ERROR_EMPTY_ARGUMENT);
   EXPECT_EQ(IpcRepairMessageCompose(nullptr, 0, body, 8), 0);

@@ -23,33 +23,23 @@ class NvrInternalTest : public WireTest {
   }
 };
 
-TEST_F(NvrInternalTest, LockWritesBothStreamsAndReadsThemByNumber) {
-  NVR_INTERNAL_4001_PARAM record;
-  set(record.SN, "sn");
-  record.StreamConfig[0].Stream = 2;
-  set(record.StreamConfig[0].Resolution, "704*576");
-  record.StreamConfig[0].BitRate = 4000000000;
-  record.StreamConfig[1].Stream = 1;
-  set(record.StreamConfig[1].EncodeFormat, "H265");
+TEST_F(NvrInternalTest, LockReadsTwoStreamsByNumberAndWritesThemInOrder) {
+  const std::string first =
+      "<StreamConfig\nStream=\"1\"\nResolution=\"704*576\"\nEncodeFormat=\"H265\"\nBitRateControl=\"VBR\"\n"
+      "Initquant=\"255\"\nBitRate=\"4000000000\"\nFrameRate=\"25\"\n/>\n";
   const std::string second =
-      "<StreamConfig\nStream=\"2\"\nResolution=\"704*576\"\nEncodeFormat=\"\"\nBitRateControl=\"\"\n"
-      "Initquant=\"255\"\nBitRate=\"4000000000\"\nFrameRate=\"255\"\n/>\n";
-  const std::string body =
-      "<LockParamInfo>\n<IPCInfo\nSN=\"sn\"\nIPAddress=\"\"\nMulticularChn=\"-1\"\n/>\n" + second +
-      "<StreamConfig\nStream=\"1\"\nResolution=\"\"\nEncodeFormat=\"H265\"\nBitRateControl=\"\"\nInitquant=\"255\"\n"
-      "BitRate=\"4294967295\"\nFrameRate=\"255\"\n/>\n</LockParamInfo>\n";
-  for (const int direction : {0, 1}) EXPECT_EQ(bodyOf(kType, "4001", direction, &record), body);
-  const auto read = analysed<NVR_INTERNAL_4001_PARAM>(kType, "4001", body);
-  EXPECT_STREQ(read.SN, "sn");
-  EXPECT_EQ(read.StreamConfig[0].Stream, 1);
-  EXPECT_STREQ(read.StreamConfig[0].EncodeFormat, "H265");
-  EXPECT_EQ(read.StreamConfig[1].BitRate, 4000000000);
-
-  const auto twice = analysed<NVR_INTERNAL_4001_PARAM>(
-      kType, "4001",
-      "<LockParamInfo>" + second + second + "<StreamConfig Stream=\"1\" FrameRate=\"9\"/></LockParamInfo>");
-  EXPECT_EQ(twice.StreamConfig[0].FrameRate, 255);
-  EXPECT_STREQ(twice.StreamConfig[1].Resolution, "704*576");
+      "<StreamConfig\nStream=\"2\"\nResolution=\"\"\nEncodeFormat=\"\"\nBitRateControl=\"\"\nInitquant=\"1\"\n"
+      "BitRate=\"4294967295\"\nFrameRate=\"255\"\n/>\n";
+  const auto locked = [](const std::string& streams) {
+    return "<LockParamInfo>\n<IPCInfo\nSN=\"sn\"\nIPAddress=\"10.0.0.1\"\nMulticularChn=\"-1\"\n/>\n" + streams +
+           "</LockParamInfo>\n";
+  };
+  const auto read = analysed<NVR_INTERNAL_4001_PARAM>(kType, "4001", locked(second + first));
+  EXPECT_EQ(read.StreamConfig[0].BitRate, 4000000000);
+  for (const int direction : {0, 1}) EXPECT_EQ(bodyOf(kType, "4001", direction, &read), locked(first + second));
+  const auto twice = analysed<NVR_INTERNAL_4001_PARAM>(kType, "4001", locked(second + second + first));
+  EXPECT_EQ(twice.StreamConfig[0].Stream, 255);
+  EXPECT_EQ(twice.StreamConfig[1].Initquant, 1);
 }
 
 TEST_F(NvrInternalTest, LockRefusesStreamsThatAreNotTheTwo) {
@@ -96,19 +86,20 @@ TEST_F(NvrInternalTest, ChannelsStopAtTheTableAndAtTheirCount) {
 
 TEST_F(NvrInternalTest, ChannelListNeedsItsPeerAndItsCount) {
   NVR_INTERNAL_4002_PARAM record;
-  char body[8] = "?";
-  EXPECT_EQ(NvrInternalMessageCompose(&record, 0, "4002", body, sizeof body), KOV_ERROR_EMPTY_ARGUMENT);
-  record.ChannelCount = 1;
-  EXPECT_EQ(NvrInternalMessageCompose(&record, 1, "4002", body, sizeof body), KOV_ERROR_EMPTY_ARGUMENT);
-  record.ChannelCount = -1;
+  EXPECT_EQ(bodyOf(kType, "4002", 0, &record), "code -1001");
   std::memset(record.SrcIp, '1', sizeof record.SrcIp);
-  EXPECT_EQ(NvrInternalMessageCompose(&record, 3, "4002", body, sizeof body), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(bodyOf(kType, "4002", 3, &record), "code -1001");
   const std::string line = "E NVR_INTERNAL_MESSAGES put a error Param ";
-  EXPECT_EQ(logLines(), (std::vector<std::string>{line + "acSrcIp: \n", line + "iChannelCount: 1 acSrcIp: \n",
-                                                  line + "iChannelCount: -1 acSrcIp: " + std::string(32, '1') + "\n"}));
+  EXPECT_EQ(failures()[0], line + "acSrcIp: \n");
+  EXPECT_EQ(failures()[2], line + "iChannelCount: -1 acSrcIp: " + std::string(32, '1') + "\n");
+  char body[8] = "?";
+  EXPECT_EQ(NvrInternalMessageCompose(&record, 1, "4002", body, sizeof body), KOV_ERROR_EMPTY_ARGUMENT);
   EXPECT_STREQ(body, "?");
   EXPECT_EQ(NvrInternalMessageCompose(&record, 0, "4002", body, sizeof body), 0);
   EXPECT_STREQ(body, "<REQUES");
+  record = {};
+  record.ChannelCount = 1;
+  EXPECT_EQ(bodyOf(kType, "4002", 1, &record), "code -1001");
 }
 
 TEST_F(NvrInternalTest, TellsUnknownCodesAndMissingElements) {
