@@ -55,6 +55,9 @@ TEST_F(DeviceReportTest, AnalysisParsesBeforeItLooksAtTheCode) {
                                                   "E DeviceReportMessageAnalysis put a empty Param\n",
                                                   "E DEVICE_REPORT_MESSAGE put a empty Param\n"}));
   EXPECT_EQ(result, nullptr);
+  resetPlatform();
+  EXPECT_EQ(analysisCode(kType, "3902", ""), KOV_ERROR_UNKNOWN_MESSAGE);
+  EXPECT_EQ(failures(), std::vector<std::string>{"E SYSTEM_HWCFG_MESSAGE deal a unknow msg_cdoe : 3902\n"});
 }
 
 }  // namespace
