@@ -4,10 +4,14 @@
 
 #include "config/system_config.h"
 #include "control/system_control.h"
+#include "discovery/system_searchipc.h"
+#include "kov_protocol_system_other_msg/nvr_internal.h"
 #include "live/reverse_audio.h"
 #include "playback/nvr_replay.h"
 #include "playback/replay_control.h"
 #include "production/nvr_produce_test.h"
+#include "reports/device_report.h"
+#include "reports/ipc_repair.h"
 #include "session/debug.h"
 #include "session/heartbeat.h"
 #include "session/system_encrypt.h"
@@ -26,13 +30,17 @@ constexpr FamilyRow kFamilies[] = {
     {"NVR_PRODUCE_TEST_MESSAGE", kHeartbeat, Framing::Framed, kHeartbeatCode},
     {"USER_AUTH_MESSAGE", kUserAuth},
     {"SYSTEM_ENCRYPT_MESSAGE", kSystemEncrypt},
+    {"SYSTEM_SEARCHIPC_MESSAGE", kSystemSearchipc, Framing::Bare},
     {"NVR_REPLAY_MESSAGE", kNvrReplay},
     {"REVERSE_AUDIO_MESSAGE", kReverseAudio},
     {"SYSTEM_CONTROL_MESSAGE", kSystemControl},
     {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
     {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
     {"REPLAY_CONTROL_MESSAGE", kReplayControl},
+    {"IPC_REPAIR_MESSAGE", kIpcRepair, Framing::Bare},
+    {"NVR_INTERNAL_MESSAGES", kNvrInternal},
     {"NVR_PRODUCE_TEST_MESSAGE", kNvrProduceTest},
+    {"DEVICE_REPORT_MESSAGE", kDeviceReport},
     {"DBG_CMD_MESSAGE", kDebugText},
     {"SYSTEM_LOG_MESSAGE", kSystemLog},
     {"SYSTEM_LOG_DATA", kSystemLog},
