@@ -187,6 +187,7 @@ TEST_F(ComposeEntry, BareDocumentsGiveWhatFitsAndTellTheirLength) {
     std::memset(record->LANConfig.DNS1, 'd', sizeof record->LANConfig.DNS1);
     const std::string document = documentOf(type, "3", 0, param_);
     const int length = static_cast<int>(document.size());
+    ASSERT_EQ(length > 8192, accounts == 40);
     for (const int size : {1, 100, length - 1, length, length + 1, length + 300}) {
       ASSERT_EQ(compose(size), length) << size;
       const std::size_t whole = static_cast<std::size_t>(std::min(size, length));
