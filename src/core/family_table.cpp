@@ -4,12 +4,14 @@
 
 #include "config/system_config.h"
 #include "playback/nvr_replay.h"
+#include "ptz/ptz_control.h"
 
 namespace kov {
 namespace {
 
 constexpr FamilyRow kFamilies[] = {
     {"NVR_REPLAY_MESSAGE", kNvrReplay},
+    {"PTZ_CONTROL_MESSAGE", kPtzControl},
     {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
     {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
 };
