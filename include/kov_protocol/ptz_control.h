@@ -56,8 +56,7 @@ extern "C" {
  * behind the filled one.
  */
 typedef struct PTZ_CONTROL_PTZ_CMD_PARAM {
-  int32_t channelid
-      KOV_DEFAULT(-1); /**< Element before `xml`; left out while unset, and by some sub-commands always. */
+  int32_t channelid KOV_DEFAULT(-1); /**< Element before `xml`, in the texts that carry it; left out while unset. */
   int32_t reserved KOV_DEFAULT(0);
   char cmd[32] KOV_EMPTY; /**< The sub-command, compared exactly. */
   void *pExData KOV_DEFAULT(nullptr);

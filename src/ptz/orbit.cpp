@@ -20,6 +20,8 @@ using LocusLine = PTZ_CONTROL_LOCUS_LINE;
 using Locus = PTZ_CONTROL_PTZ_CMD_SETLOCUS_PARAM;
 using LocusNumber = PTZ_CONTROL_PTZ_CMD_RECORDLOCUS_PARAM;
 
+constexpr std::int32_t kMostPoints = PTZ_CONTROL_ORBIT_POINTS;
+
 void orbit(BodyIo& io, Orbit& r) { io.texts({{"orbit_id", r.orbit_id}, {"orbit_type", r.orbit_type}}); }
 
 void orbitAdded(BodyIo& io, OrbitChange& r) {
@@ -37,7 +39,7 @@ void locusNumber(BodyIo& io, LocusNumber& r) { io.texts({{"locus_id", r.locus_id
 bool isSet(const OrbitLine& line) { return kov::isSet(line.count); }
 
 void writeLine(BodyWriter& body, const OrbitLine& line) {
-  for (std::int32_t i = 0; i < std::min(line.count, PTZ_CONTROL_ORBIT_POINTS); ++i) {
+  for (std::int32_t i = 0; i < std::min(line.count, kMostPoints); ++i) {
     body.character('[');
     body.field(line.point[i].preset);
     body.character(':');
@@ -61,7 +63,7 @@ bool readPoint(const char* begin, const char* end, OrbitPoint& point) {
 
 void readLine(const char* text, OrbitLine& line) {
   line.count = 0;
-  while (line.count < PTZ_CONTROL_ORBIT_POINTS) {
+  while (line.count < kMostPoints) {
     const char* const begin = std::strchr(text, '[');
     const char* const end = begin == nullptr ? nullptr : std::strchr(begin, ']');
     if (end == nullptr) return;
