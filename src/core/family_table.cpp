@@ -10,6 +10,7 @@
 #include "playback/nvr_replay.h"
 #include "playback/replay_control.h"
 #include "production/nvr_produce_test.h"
+#include "ptz/ptz_control.h"
 #include "reports/device_report.h"
 #include "reports/ipc_repair.h"
 #include "session/debug.h"
@@ -33,6 +34,7 @@ constexpr FamilyRow kFamilies[] = {
     {"SYSTEM_SEARCHIPC_MESSAGE", kSystemSearchipc, Framing::Bare},
     {"NVR_REPLAY_MESSAGE", kNvrReplay},
     {"REVERSE_AUDIO_MESSAGE", kReverseAudio},
+    {"PTZ_CONTROL_MESSAGE", kPtzControl},
     {"SYSTEM_CONTROL_MESSAGE", kSystemControl},
     {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
     {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
