@@ -3,12 +3,14 @@
 #include <iterator>
 
 #include "config/system_config.h"
+#include "live/live_stream.h"
 #include "playback/nvr_replay.h"
 
 namespace kov {
 namespace {
 
 constexpr FamilyRow kFamilies[] = {
+    {"LIVE_STREAM_MESSAGE", kLiveStream},
     {"NVR_REPLAY_MESSAGE", kNvrReplay},
     {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
     {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
