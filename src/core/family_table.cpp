@@ -4,6 +4,7 @@
 
 #include "config/system_config.h"
 #include "live/live_stream.h"
+#include "live/media_data.h"
 #include "playback/nvr_replay.h"
 
 namespace kov {
@@ -11,6 +12,7 @@ namespace {
 
 constexpr FamilyRow kFamilies[] = {
     {"LIVE_STREAM_MESSAGE", kLiveStream},
+    {"MEDIA_DATA_MESSAGE", kMediaData},
     {"NVR_REPLAY_MESSAGE", kNvrReplay},
     {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
     {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
