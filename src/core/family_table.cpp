@@ -6,6 +6,7 @@
 #include "live/live_stream.h"
 #include "live/media_data.h"
 #include "playback/nvr_replay.h"
+#include "reports/alarm_report.h"
 
 namespace kov {
 namespace {
@@ -14,6 +15,7 @@ constexpr FamilyRow kFamilies[] = {
     {"LIVE_STREAM_MESSAGE", kLiveStream},
     {"MEDIA_DATA_MESSAGE", kMediaData},
     {"NVR_REPLAY_MESSAGE", kNvrReplay},
+    {"ALARM_REPORT_MESSAGE", kAlarmReport},
     {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
     {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
 };
