@@ -66,7 +66,8 @@ class AlarmReportTest : public WireTest {};
 
 TEST_F(AlarmReportTest, ElementsAreLeftOutWhileUnset) {
   Alarm alarm;
-  const std::string info = "Alarm_code=\"-1\"\nAlarm_flag=\"-1\"\nAlarm_level=\"-1\"\nAlarm_data=\"\"\n";
+  alarm.Alarm_code = 38;
+  const std::string info = "Alarm_code=\"38\"\nAlarm_flag=\"-1\"\nAlarm_level=\"-1\"\nAlarm_data=\"\"\n";
   EXPECT_EQ(bodyOf(kType, kCode, 0, &alarm), kOpening + info + "/>\n" + kEnding);
   const std::string full =
       "<ALARM_REPORT_PARAM>\n<SRC_INFO\nSrc=\"1\"\nChannelId=\"2\"\n/>\n<ALARM_ITEM>\n<ALARM_INFO\n" + info +
@@ -76,6 +77,7 @@ TEST_F(AlarmReportTest, ElementsAreLeftOutWhileUnset) {
       kEnding;
   alarm = analysed<Alarm>(kType, kCode, full);
   EXPECT_EQ(alarm.pExData, nullptr);
+  EXPECT_EQ(failures(), std::vector<std::string>{});
   EXPECT_EQ(bodyOf(kType, kCode, 4, &alarm), full);
 }
 

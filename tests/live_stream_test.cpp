@@ -125,6 +125,7 @@ TEST_F(LiveStreamTest, HeaderAttributesStayInTheirBuffer) {
   EXPECT_EQ(extras(size - 1, 2, exact - 1), "x\n" + kNumbers.substr(0, kNumbers.find("StreamNum")));
   for (const int length : {-1, 3, INT32_MAX}) EXPECT_EQ(extras(3, length, 3), "x\n");
   EXPECT_EQ(extras(-1, 2, 3), "x\n");
+  EXPECT_EQ(extras(size, -1, exact), "x\n");
   char body[8];
   EXPECT_EQ(LiveStreamMessageCompose(&record, 1, "1062", body, sizeof body, nullptr, 256, 0), 0);
 }

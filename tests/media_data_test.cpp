@@ -96,6 +96,11 @@ TEST_F(MediaDataTest, ThumbnailTimesAreSeparatedByCommas) {
   EXPECT_EQ(compose("8", 0, &record), "<REQUEST_PARAM\nTimeList=\"" + times + "\"\n/>\n+0");
   record = analysed<MEDIA_DATA_8_PARAM>(kType, "8", "<POS/><REQUEST_PARAM TimeList=\"" + times + "U\"/>");
   EXPECT_STREQ(record.TimeList[19], "TTTTTTTTTTTTTTT");
+  record = analysed<MEDIA_DATA_8_PARAM>(kType, "8",
+                                        "<POS/><REQUEST_PARAM TimeList=\"" + times.substr(0, 17) +
+                                            "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21\"/>");
+  EXPECT_STREQ(record.TimeList[19], "19");
+  EXPECT_STREQ(record.reserved2, "");
   record = analysed<MEDIA_DATA_8_PARAM>(kType, "8", "<POS/><REQUEST_PARAM TimeList=\"A,,B\"/>");
   EXPECT_EQ(compose("8", 0, &record), "<REQUEST_PARAM\nTimeList=\"A,B,\"\n/>\n+0");
 
