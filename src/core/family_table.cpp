@@ -6,11 +6,14 @@
 #include "control/system_control.h"
 #include "discovery/system_searchipc.h"
 #include "kov_protocol_system_other_msg/nvr_internal.h"
+#include "live/live_stream.h"
+#include "live/media_data.h"
 #include "live/reverse_audio.h"
 #include "playback/nvr_replay.h"
 #include "playback/replay_control.h"
 #include "production/nvr_produce_test.h"
 #include "ptz/ptz_control.h"
+#include "reports/alarm_report.h"
 #include "reports/device_report.h"
 #include "reports/ipc_repair.h"
 #include "session/debug.h"
@@ -32,9 +35,12 @@ constexpr FamilyRow kFamilies[] = {
     {"USER_AUTH_MESSAGE", kUserAuth},
     {"SYSTEM_ENCRYPT_MESSAGE", kSystemEncrypt},
     {"SYSTEM_SEARCHIPC_MESSAGE", kSystemSearchipc, Framing::Bare},
+    {"LIVE_STREAM_MESSAGE", kLiveStream},
+    {"MEDIA_DATA_MESSAGE", kMediaData},
     {"NVR_REPLAY_MESSAGE", kNvrReplay},
     {"REVERSE_AUDIO_MESSAGE", kReverseAudio},
     {"PTZ_CONTROL_MESSAGE", kPtzControl},
+    {"ALARM_REPORT_MESSAGE", kAlarmReport},
     {"SYSTEM_CONTROL_MESSAGE", kSystemControl},
     {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
     {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
