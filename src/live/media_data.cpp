@@ -287,8 +287,8 @@ int MEDIA_DATA_8_PARAM_init(MEDIA_DATA_8_PARAM* record) { return kov::fillDefaul
 int MediaDataMessageCompose(const void* param, int direction, const char* msgCode, char* body, int bodySize,
                             uint32_t* extraLen) {
   // Without a counter there is no composing: the table refuses it as it does a null body.
-  char* const into = extraLen == nullptr ? nullptr : body;
-  const int composed = kov::kTable.compose(param, direction, msgCode, into, bodySize);
+  if (extraLen == nullptr) return kov::kTable.compose(param, direction, msgCode, nullptr, bodySize);
+  const int composed = kov::kTable.compose(param, direction, msgCode, body, bodySize);
   if (composed == KOV_OK && param != nullptr) kov::countPiece(msgCode, param, direction, *extraLen);
   return composed;
 }

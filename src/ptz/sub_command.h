@@ -52,7 +52,7 @@ struct PtzMessage {
  private:
   bool needsXml() const { return !request.isBare() && !response.isBare(); }
   void readCmd(const ElementReader& xml, char (&text)[sizeof PTZ_CONTROL_PTZ_CMD_PARAM::cmd]) const;
-  void read(const ElementReader& body, const ElementReader& xml, void* block) const;
+  void read(const ElementReader& body, const ElementReader& xml, void* memory) const;
 };
 
 constexpr RecordType kNoBlock = {0, nullptr};
