@@ -2,7 +2,9 @@
 #include "config/system_config.h"
 
 #include "config/channel.h"
+#include "config/general.h"
 #include "config/network.h"
+#include "config/recorder.h"
 #include "control/system_control.h"
 #include "core/family.h"
 #include "kov_platform/services.h"
@@ -20,10 +22,7 @@ constexpr CodeRow kSharedRows[] = {{1020, &kGetSysAbality}};
 constexpr CodeGroup kSharedWithControl = kSharedRows;
 
 constexpr const CodeGroup* kGroups[] = {
-    &kReservedCodes,
-    &kSharedWithControl,
-    &kNetworkCodes,
-    &kChannelCodes,
+    &kReservedCodes, &kSharedWithControl, &kNetworkCodes, &kChannelCodes, &kGeneralCodes, &kRecorderSettingCodes,
 };
 
 void logUnknown(const char*, int code) {
