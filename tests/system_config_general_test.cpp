@@ -114,6 +114,7 @@ TEST_F(SystemConfigGeneralTest, RecorderAccountsStartWithTheOperationWhenSet) {
   const auto many =
       readBody<SYSTEM_CONFIG_GET_2510_PARAM>("2510", "<UserConfig>" + repeated(account, 70) + "</UserConfig>");
   EXPECT_EQ(many->UserNum, 64);
+  EXPECT_EQ(readBody<SYSTEM_CONFIG_GET_2510_PARAM>("2510", "<UserConfig UserNum=\"3\"/>")->UserNum, 3);
   many->UserNum = INT_MAX;
   EXPECT_EQ(written("2510", kAnswer, *many),
             "<UserConfig MaxUserNum=\"-1\" UserNum=\"2147483647\" >\n" + repeated(account, 64) + "</UserConfig>\n");
