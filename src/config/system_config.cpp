@@ -2,8 +2,10 @@
 #include "config/system_config.h"
 
 #include "config/channel.h"
+#include "config/general.h"
 #include "config/media.h"
 #include "config/network.h"
+#include "config/recorder.h"
 #include "control/system_control.h"
 #include "core/family.h"
 #include "kov_platform/services.h"
@@ -21,7 +23,8 @@ constexpr CodeRow kSharedRows[] = {{1020, &kGetSysAbality}};
 constexpr CodeGroup kSharedWithControl = kSharedRows;
 
 constexpr const CodeGroup* kGroups[] = {
-    &kReservedCodes, &kSharedWithControl, &kNetworkCodes, &kMediaCodes, &kChannelCodes,
+    &kReservedCodes, &kSharedWithControl, &kNetworkCodes,         &kMediaCodes,
+    &kChannelCodes,  &kGeneralCodes,      &kRecorderSettingCodes,
 };
 
 void logUnknown(const char*, int code) {
