@@ -1,12 +1,16 @@
-# The examples: examples/NAME.cpp or NAME.c becomes the program kov_NAME, and a test runs it without arguments.
-# They use the shared library, as most applications do.
+# The examples: examples/NAME.cpp or NAME.c becomes the program kov_NAME, and so do all sources of a directory
+# examples/NAME/. A test runs it without arguments. They use the shared library, as most applications do.
 
-file(GLOB kov_example_sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/examples/*.cpp"
-                                                "${PROJECT_SOURCE_DIR}/examples/*.c")
+file(GLOB kov_examples CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/examples/*")
+list(FILTER kov_examples INCLUDE REGEX "/[a-z0-9_]+(\\.cpp|\\.c)?$")
 
-foreach(source IN LISTS kov_example_sources)
-  get_filename_component(name "${source}" NAME_WE)
-  add_executable(kov_${name} "${source}")
+foreach(example IN LISTS kov_examples)
+  get_filename_component(name "${example}" NAME_WE)
+  set(sources "${example}")
+  if(IS_DIRECTORY "${example}")
+    file(GLOB sources CONFIGURE_DEPENDS "${example}/*.cpp" "${example}/*.c")
+  endif()
+  add_executable(kov_${name} ${sources})
   target_link_libraries(kov_${name} PRIVATE kov_protocol kov_platform)
   kov_program_options(kov_${name})
   if(name STREQUAL "demo")  # two processes that talk to each other
