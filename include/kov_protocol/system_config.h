@@ -11,6 +11,7 @@
 
 #include "kov_protocol/kov_protocol.h"
 #include "kov_protocol/system_config_channel.h"
+#include "kov_protocol/system_config_media.h"
 #include "kov_protocol/system_config_network.h"
 
 #ifdef __cplusplus

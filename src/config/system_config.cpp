@@ -2,6 +2,7 @@
 #include "config/system_config.h"
 
 #include "config/channel.h"
+#include "config/media.h"
 #include "config/network.h"
 #include "control/system_control.h"
 #include "core/family.h"
@@ -20,10 +21,7 @@ constexpr CodeRow kSharedRows[] = {{1020, &kGetSysAbality}};
 constexpr CodeGroup kSharedWithControl = kSharedRows;
 
 constexpr const CodeGroup* kGroups[] = {
-    &kReservedCodes,
-    &kSharedWithControl,
-    &kNetworkCodes,
-    &kChannelCodes,
+    &kReservedCodes, &kSharedWithControl, &kNetworkCodes, &kMediaCodes, &kChannelCodes,
 };
 
 void logUnknown(const char*, int code) {
