@@ -48,8 +48,8 @@ void serveList(int socket) {
   for (int first = 0; first < SYSTEM_CONFIG_CHANNELS; first += pageSize) sendPage(socket, first, pageSize);
 }
 
-// The counts of a page. Peers that put them into a REQUEST_PARAM get them read into the record; this library writes them
-// without any element, and then they are text in front of the first channel.
+// The counts of a page. Peers that put them into a REQUEST_PARAM get them read into the record; this library writes
+// them without any element, and then they are text in front of the first channel.
 int countOf(const std::string& payload, int read, const std::string& name) {
   if (read != -1) return read;
   const std::size_t at = payload.find(name + "=\"");

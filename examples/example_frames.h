@@ -144,11 +144,11 @@ class Received {
   void* record_ = nullptr;
 };
 
-// Reads an answer without a body, of which only the header says anything: analysis would miss the body's elements.
-inline KOV_PROTOCOL_HEADER receiveAcknowledgement(int socket) {
-  const std::string payload = receivePayload(socket);
+// The header alone. That is all there is in a message with an empty body, as many queries and most acknowledgements
+// have: analysis would miss the body's elements.
+inline KOV_PROTOCOL_HEADER readHeader(const std::string& payload) {
   KOV_PROTOCOL_HEADER header = {};
-  require(GetMessageHeader(payload.c_str(), &header) == KOV_OK, "an acknowledgement");
+  require(GetMessageHeader(payload.c_str(), &header) == KOV_OK, "a message with a header");
   return header;
 }
 

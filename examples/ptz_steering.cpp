@@ -121,7 +121,7 @@ class Client {
 
   void tell(const char* cmd, void* block) {
     ask(cmd, block);
-    const KOV_PROTOCOL_HEADER answer = example::receiveAcknowledgement(connection_.client());
+    const KOV_PROTOCOL_HEADER answer = example::readHeader(example::receivePayload(connection_.client()));
     require(std::strcmp(answer.Msg_code, PTZ_CONTROL_MESSAGE_CODE) == 0, "an answer of the same kind");
   }
 
