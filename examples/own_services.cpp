@@ -115,8 +115,12 @@ int main() {
   require(own.errorLines > 0 && std::strcmp(own.lastError, "Malloc Memory failed!\n") == 0, "a line about memory");
   require(own.blocksGiven == 3, "no further block");
 
+  const std::vector<Cameras> cameras(1);
+  std::vector<char> out(8192);
   example::put(header.Msg_code, "99999");
-  require(KovProtocolXMLCompose(&header, key, KOV_REQUEST, KOV_PLAIN, nullptr, key, sizeof key) < 0, "a refused code");
+  require(KovProtocolXMLCompose(&header, cameras.data(), KOV_REQUEST, KOV_PLAIN, nullptr, out.data(),
+                                static_cast<int>(out.size())) == KOV_ERROR_UNKNOWN_MESSAGE,
+          "an unknown code");
   require(std::strstr(own.lastError, "99999") != nullptr, "a line about the code");
 
   std::printf("%d information lines, %d errors, %d blocks\n", own.informationLines.load(), own.errorLines.load(),
