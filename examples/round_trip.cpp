@@ -19,10 +19,13 @@ int main() {
 
   KOV_PROTOCOL_HEADER from = {};
   void* record = nullptr;
+  bool same = false;
   if (KovProtocolMSGAnalysisStart(frame + KOV_FRAME_HEADER_SIZE, length - KOV_FRAME_HEADER_SIZE, KOV_PLAIN, nullptr,
                                   &from, &record) == 0) {
     const auto* asked = static_cast<const NVR_REPLAY_3001_PARAM*>(record);
     std::printf("%s: channel %d, day %s\n", from.Msg_code, asked->ChannelId, asked->Time);
+    same = asked->ChannelId == query.ChannelId && std::strcmp(asked->Time, query.Time) == 0;
   }
-  return KovProtocolMSGAnalysisStop(&record);
+  KovProtocolMSGAnalysisStop(&record);
+  return same ? 0 : 1;
 }
