@@ -10,6 +10,8 @@
 #define KOV_PROTOCOL_SYSTEM_CONFIG_H
 
 #include "kov_protocol/kov_protocol.h"
+#include "kov_protocol/system_config_alarm.h"
+#include "kov_protocol/system_config_analytics.h"
 
 #ifdef __cplusplus
 extern "C" {

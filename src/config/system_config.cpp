@@ -1,6 +1,8 @@
 // SYSTEM_CONFIG_GET_MESSAGE and SYSTEM_CONFIG_SET_MESSAGE: one table of codes, whose rows stand beside their messages.
 #include "config/system_config.h"
 
+#include "config/alarm.h"
+#include "config/analytics.h"
 #include "core/family.h"
 #include "kov_platform/services.h"
 #include "kov_protocol/system_config.h"
@@ -13,7 +15,7 @@ constexpr CodeRow kReservedRows[] = {{3802, nullptr}};
 constexpr CodeGroup kReservedCodes = kReservedRows;
 
 constexpr const CodeGroup* kGroups[] = {
-    &kReservedCodes,
+    &kReservedCodes, &kAlarmCodes, &kRuleCodes, &kAlgorithmCodes, &kFaceCodes, &kSceneCodes,
 };
 
 void logUnknown(const char*, int code) {
