@@ -153,7 +153,6 @@ TEST_F(SystemConfigAlarmTest, SwitchesAnswerInTheirOwnDirections) {
       "<SmartDetection1\nRegionDetectionEnable=\"3\"\nCrossBoundaryDetectionEnable=\"4\"\n/>\n";
   const std::string push = "<PushOffline\nChannelId=\"1\"\nPushOfflineEnable=\"2\"\n/>\n";
   const Switch switches[] = {
-      {kGet, "1492", "<LightAudioAlarm\nLightAudioAlarmEnable=\"1\"\n/>\n", answer},
       {kSet, "1493", "<LightAudioAlarm\nLightAudioAlarmEnable=\"1\"\n/>\n", request},
       {kGet, "1498", smart, answer},
       {kSet, "1499", smart, request},
