@@ -38,6 +38,6 @@ void periodList(BodyIo& io, const char* name, SYSTEM_CONFIG_PERIOD (&table)[Capa
 }
 
 // The attributes of a drawing, whose point list is always cut.
-void drawingAttributes(BodyIo& io, SYSTEM_CONFIG_DRAWING& drawing);
+void drawingAttributes(BodyIo& io, SYSTEM_CONFIG_DRAWING& r);
 
 }  // namespace kov
