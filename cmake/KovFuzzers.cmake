@@ -1,4 +1,4 @@
-# The fuzz targets: fuzz/NAME_fuzz.cpp becomes the program NAME_fuzz, with its seed corpus in fuzz/corpus/NAME_fuzz/.
+# The fuzz targets: fuzz/NAME_fuzz.cpp becomes the program NAME_fuzz.
 # Other files in fuzz/ are compiled into every target.
 if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
   message(FATAL_ERROR "The fuzz targets need clang")

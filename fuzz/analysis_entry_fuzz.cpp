@@ -50,13 +50,14 @@ int P2pProtocolEncode(int, const char* data, int dataLen, char* out, int outSize
   return lie(data, dataLen, out, outSize);
 }
 
-// The first byte of the input chooses the decode mode, the rest is the payload in a block of exactly its size.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* input, std::size_t size) {
-  if (size < 2) return 0;
-  const int decodeMode = static_cast<int>(input[0] % 3) - 1;
-  const std::size_t length = size - 1;
+// The input is the payload, in a block of exactly its size. Its last byte chooses the decode mode, too: a document that
+// ends in '>' is taken as plain.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* input, std::size_t length) {
+  if (length == 0) return 0;
+  const int choice = input[length - 1] % 3;
+  const int decodeMode = choice == '>' % 3 ? KOV_PLAIN : choice;
   const std::unique_ptr<char[]> payload(new char[length]);
-  std::memcpy(payload.get(), input + 1, length);
+  std::memcpy(payload.get(), input, length);
   KOV_PROTOCOL_HEADER header;
   void* result = nullptr;
   const int code =

@@ -28,8 +28,9 @@ need() {
   done
   [ ${#missing[@]} -eq 0 ] && return
   echo "Installing ${missing[*]}"
-  as_root apt-get update -q
-  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}" </dev/null
+  local apt=(as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o Acquire::Retries=3)
+  "${apt[@]}" update </dev/null
+  "${apt[@]}" install --no-install-recommends "${missing[@]}" </dev/null
 }
 
 # build PRESET [TARGET...]: configures and builds into build/PRESET.

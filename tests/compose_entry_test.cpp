@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "kov_protocol/nvr_replay.h"
+#include "kov_protocol/system_searchipc.h"
 #include "wire.h"
 
 namespace kov::test {
@@ -170,6 +171,27 @@ TEST_F(ComposeEntry, EncodersThatFailOrFillTheirCapacity) {
     });
     EXPECT_EQ(compose(size, 0), length == size - 8 ? size : KOV_ERROR_SIZE) << length;
     EXPECT_EQ(capacity, 2 * size - 8);
+  }
+}
+
+TEST_F(ComposeEntry, BareDocumentsGiveWhatFitsAndTellTheirLength) {
+  auto record = std::make_unique<SYSTEM_SEARCHIPC_3_PARAM>();
+  const std::string type = "SYSTEM_SEARCHIPC_MESSAGE";
+  header_ = headerOf(type, "3");
+  param_ = record.get();
+  for (const int accounts : {1, 40}) {  // below and above the size from which a document is composed in place
+    std::memset(static_cast<void*>(record.get()), 'p', sizeof *record);
+    record->AccountCount = accounts;
+    const std::string document = documentOf(type, "3", 0, param_);
+    const int length = static_cast<int>(document.size());
+    ASSERT_EQ(length > 8192, accounts == 40);
+    for (const int size : {1, 100, length - 1, length, length + 1, length + 300}) {
+      ASSERT_EQ(compose(size), length) << size;
+      const std::size_t whole = static_cast<std::size_t>(std::min(size, length));
+      // A cut document may end in a NUL.
+      const std::size_t sure = size < length ? whole - 1 : whole;
+      EXPECT_EQ(frame_.substr(0, sure), document.substr(0, sure)) << size;
+    }
   }
 }
 

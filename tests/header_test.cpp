@@ -29,7 +29,8 @@ TEST_F(HeaderReaders, EachHasItsOwnCodesAndLines) {
   EXPECT_EQ(GetTransparentHeader(bare, &record), -1004);
   const std::vector<std::string> lines = logLines();
   ASSERT_EQ(lines.size(), 9U);
-  for (const int nullArgument : {0, 1, 7, 8}) EXPECT_EQ(lines[nullArgument].substr(0, 21), "E Invalid input data ");
+  for (const unsigned nullArgument : {0U, 1U, 7U, 8U})
+    EXPECT_EQ(lines[nullArgument].substr(0, 21), "E Invalid input data ");
   EXPECT_EQ(lines[2], "E GetMessageHeader Parse xml error\n");
   EXPECT_EQ(lines[3], "E GetMessageHeader get MESSAGE_HEADER error\n");
   EXPECT_EQ(lines[4], "E GetMessageHeaderEx put a empty Param\n");

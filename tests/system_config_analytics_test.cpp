@@ -3,13 +3,11 @@
 #include <algorithm>
 #include <climits>
 
-#include "wire.h"
+#include "config/analytics.h"
+#include "system_config_wire.h"
 
 namespace kov::test {
 namespace {
-
-const std::string kGet = "SYSTEM_CONFIG_GET_MESSAGE";
-const std::string kSet = "SYSTEM_CONFIG_SET_MESSAGE";
 
 class SystemConfigAnalyticsTest : public WireTest {};
 
@@ -87,6 +85,18 @@ void expectRule(const Rule& read, bool told) {
   EXPECT_EQ(read.DefCrowdFlowStatEnable, told ? 0 : 255);
 }
 
+TEST_F(SystemConfigAnalyticsTest, EachMessageHasItsSide) {
+  EXPECT_EQ(sidesOf(kRuleCodes),
+            "1402:134 1403:02 1412:134 1413:02 1415:134 1414:02 1417:134 1416:02 1426:134 1427:02 ");
+  EXPECT_EQ(sidesOf(kAlgorithmCodes), "1404:134 1405:02 1406:134 1428:134 1429:01234 1430:02 ");
+  EXPECT_EQ(sidesOf(kFaceCodes), "1407:134 1408:02 1409:134 1410:134 1411:02 1418:134 1419:02 1424:134 1425:134 ");
+  EXPECT_EQ(sidesOf(kSceneCodes), "1420:134 1421:02 1422:134 1423:02 ");
+  EXPECT_EQ(missingOf(kAlgorithmCodes),
+            "getLicensePlateEvent VehicleAnalysis; setLicensePlateEvent VehicleAnalysis; "
+            "getLicensePlateImage LicensePlatePicture; getAlgorithmicList RESPONSE_PARAM; "
+            "getAlgorithmicConfig config; setAlgorithmicConfig config; ");
+}
+
 TEST_F(SystemConfigAnalyticsTest, RequestsLeaveTheDevicesDefaultsOut) {
   SYSTEM_CONFIG_GET_1402_PARAM record;
   record.RegionDetection = rule();
@@ -95,28 +105,28 @@ TEST_F(SystemConfigAnalyticsTest, RequestsLeaveTheDevicesDefaultsOut) {
     return "<SmartConfig>\n" + element("RegionDetection", attributes) + element("CrossBoundaryDetection", attributes) +
            "</SmartConfig>\n";
   };
-  EXPECT_EQ(bodyOf(kGet, "1402", 1, &record), config(kTold));
-  EXPECT_EQ(bodyOf(kSet, "1403", 0, &record), config(kRequested));
-  const auto answer = analysed<SYSTEM_CONFIG_GET_1402_PARAM>(kGet, "1402", config(kTold));
+  EXPECT_EQ(written("1402", kAnswer, record), config(kTold));
+  EXPECT_EQ(written("1403", kAsk, record), config(kRequested));
+  const auto answer = *readBody<SYSTEM_CONFIG_GET_1402_PARAM>("1402", config(kTold));
   expectRule(answer.RegionDetection, true);
   expectRule(answer.CrossBoundaryDetection, true);
   // A request is read without the defaults even where they are, but for one.
-  const auto request = analysed<SYSTEM_CONFIG_GET_1402_PARAM>(kSet, "1403", config(kTold));
+  const auto request = *readBody<SYSTEM_CONFIG_GET_1402_PARAM>("1403", config(kTold));
   expectRule(request.RegionDetection, false);
   EXPECT_EQ(request.RegionDetection.DefTrackEnable, 2);
-  EXPECT_EQ(analysed<SYSTEM_CONFIG_GET_1402_PARAM>(kGet, "1402", "<SmartConfig/>").RegionDetection.Enable, -1);
+  EXPECT_EQ(readBody<SYSTEM_CONFIG_GET_1402_PARAM>("1402", "<SmartConfig/>")->RegionDetection.Enable, -1);
 }
 
 TEST_F(SystemConfigAnalyticsTest, CrowdFlowIsWrittenWhileItIsSet) {
   SYSTEM_CONFIG_GET_1402_PARAM record;
-  EXPECT_EQ(bodyOf(kGet, "1402", 1, &record).find("CrowdFlow"), std::string::npos);
+  EXPECT_EQ(written("1402", kAnswer, record).find("CrowdFlow"), std::string::npos);
   record.RegionDetection.DefCrowdFlowStatEnable = 1;
-  EXPECT_EQ(bodyOf(kGet, "1402", 1, &record).find("CrowdFlow"), std::string::npos);
+  EXPECT_EQ(written("1402", kAnswer, record).find("CrowdFlow"), std::string::npos);
   record.RegionDetection.CrowdFlowStatEnable = 0;
-  EXPECT_NE(bodyOf(kGet, "1402", 1, &record).find("\nCrowdFlowStatEnable=\"0\"\nDefCrowdFlowStatEnable=\"1\"\nLight"),
+  EXPECT_NE(written("1402", kAnswer, record).find("\nCrowdFlowStatEnable=\"0\"\nDefCrowdFlowStatEnable=\"1\"\nLight"),
             std::string::npos);
   record.RegionDetection.DefCrowdFlowStatEnable = 255;
-  EXPECT_NE(bodyOf(kGet, "1402", 1, &record).find("\nCrowdFlowStatEnable=\"0\"\nLightAlarmPeriod=\"\"\n"),
+  EXPECT_NE(written("1402", kAnswer, record).find("\nCrowdFlowStatEnable=\"0\"\nLightAlarmPeriod=\"\"\n"),
             std::string::npos);
 }
 
@@ -130,12 +140,12 @@ TEST_F(SystemConfigAnalyticsTest, PeriodListsOfARuleAreWholeWhateverTheirCount) 
   std::string list;
   for (int i = 0; i < SYSTEM_CONFIG_PERIODS; ++i) list += "[100:100:100-100:100:100],";
   ASSERT_GT(list.size(), 256U);
-  const std::string body = bodyOf(kGet, "1415", 1, &record);
+  const std::string body = written("1415", kAnswer, record);
   EXPECT_NE(body.find("\nLightAlarmPeriodNum=\"2147483647\"\n"), std::string::npos);
   EXPECT_NE(body.find("\nLightAlarmPeriod=\"" + list +
                       "\"\nAudioAlarmPeriod=\"\"\nEmailAlarmPeriod=\"[-1:-1:-1--1:-1:-1],\"\n/>"),
             std::string::npos);
-  const auto read = analysed<SYSTEM_CONFIG_SET_1414_PARAM>(kGet, "1415", body);
+  const auto read = *readBody<SYSTEM_CONFIG_SET_1414_PARAM>("1415", body);
   EXPECT_EQ(read.VehicleDetection.LightAlarmPeriod[11].end.second, 100);
   EXPECT_EQ(read.VehicleDetection.LightAlarmPeriodNum, INT_MAX);
 }
@@ -144,30 +154,28 @@ TEST_F(SystemConfigAnalyticsTest, RulesStandInTheElementsOfTheirMessages) {
   const std::string push =
       "OfflinePush=\"1\"\nScheduleMode=\"2\"\nAlarmStartTime=\"08:00:00\"\nAlarmEndTime=\"20:30:00\"\n";
   const SYSTEM_CONFIG_PUSH_TIME pushTime = {1, 2, {8, 0, 0}, {20, 30, 0}};
-  const auto expectBoth = [](const char* get, const char* set, const void* record, const auto& bodyWith) {
-    EXPECT_EQ(bodyOf(kGet, get, 1, record), "<SmartConfig>\n" + bodyWith(kTold) + "</SmartConfig>\n");
-    EXPECT_EQ(bodyOf(kSet, set, 2, record), "<SmartConfig>\n" + bodyWith(kRequested) + "</SmartConfig>\n");
-    EXPECT_EQ(bodyOf(kGet, get, 0, record), "");
-    EXPECT_EQ(bodyOf(kSet, set, 1, record), "");
+  const auto expectBoth = [](const char* get, const char* set, const auto& record, const auto& bodyWith) {
+    EXPECT_EQ(written(get, kAnswer, record), "<SmartConfig>\n" + bodyWith(kTold) + "</SmartConfig>\n");
+    EXPECT_EQ(written(set, kAsk, record), "<SmartConfig>\n" + bodyWith(kRequested) + "</SmartConfig>\n");
   };
   SYSTEM_CONFIG_GET_1412_PARAM vehicles = {rule(), rule(), pushTime};
-  expectBoth("1412", "1413", &vehicles, [&](const std::string& attributes) {
+  expectBoth("1412", "1413", vehicles, [&](const std::string& attributes) {
     return element("VehicleRegion", attributes) + element("VehicleCrossBoundary", attributes) +
            element("VehicleShapeAlarmPushTime", push);
   });
   SYSTEM_CONFIG_SET_1414_PARAM vehicle = {rule(), pushTime};
-  expectBoth("1415", "1414", &vehicle, [&](const std::string& attributes) {
+  expectBoth("1415", "1414", vehicle, [&](const std::string& attributes) {
     return element("VehicleDetection", attributes) + element("VehicleShapeAlarmPushTime", push);
   });
   SYSTEM_CONFIG_SET_1416_PARAM human = {rule(), pushTime};
-  expectBoth("1417", "1416", &human, [&](const std::string& attributes) {
+  expectBoth("1417", "1416", human, [&](const std::string& attributes) {
     return element("HumanFormDetection", attributes) + element("HumanDetectAlarmPushTime", push);
   });
   SYSTEM_CONFIG_GET_1426_PARAM animals = {rule(), rule()};
-  expectBoth("1426", "1427", &animals, [&](const std::string& attributes) {
+  expectBoth("1426", "1427", animals, [&](const std::string& attributes) {
     return element("AnimalRegion", attributes) + element("AnimalCrossBoundary", attributes);
   });
-  const auto read = analysed<SYSTEM_CONFIG_SET_1416_PARAM>(kSet, "1416", bodyOf(kSet, "1416", 0, &human));
+  const auto read = *readBody<SYSTEM_CONFIG_SET_1416_PARAM>("1416", written("1416", kAsk, human));
   expectRule(read.HumanFormDetection, false);
   EXPECT_EQ(read.HumanDetectAlarmPushTime.AlarmEndTime.minute, 30);
 }
@@ -193,9 +201,9 @@ SYSTEM_CONFIG_GET_1404_PARAM plates() {
 TEST_F(SystemConfigAnalyticsTest, PlatesGoOnBehindTheRule) {
   const auto record = plates();
   const std::string answer = element("VehicleAnalysis", kTold + kPlateTold);
-  EXPECT_EQ(bodyOf(kGet, "1404", 1, &record), answer);
-  EXPECT_EQ(bodyOf(kSet, "1405", 0, &record), element("VehicleAnalysis", kRequested + withoutDefaults(kPlateTold)));
-  const auto request = analysed<SYSTEM_CONFIG_GET_1404_PARAM>(kSet, "1405", answer);
+  EXPECT_EQ(written("1404", kAnswer, record), answer);
+  EXPECT_EQ(written("1405", kAsk, record), element("VehicleAnalysis", kRequested + withoutDefaults(kPlateTold)));
+  const auto request = *readBody<SYSTEM_CONFIG_GET_1404_PARAM>("1405", answer);
   expectRule(request.rule, false);
   EXPECT_EQ(request.AnalysisPeriod[0].end.second, 6);
   EXPECT_EQ(request.DefStrongLightSupprSens, -1);
@@ -212,27 +220,26 @@ TEST_F(SystemConfigAnalyticsTest, AlgorithmSettingsAreThoseOfTheElementThatIsThe
   record.StrongLightSupprSensRange[1] = 9;
   const std::string head = "<config\nalgorithmId=\"a1\"\n>\n";
   const std::string range = "StrongLightSupprSensRange=\"1,9\"\n";
-  EXPECT_EQ(bodyOf(kGet, "1429", 0, &record), "<REQUEST_PARAM\nalgorithmId=\"a1\"\n/>\n");
-  EXPECT_EQ(bodyOf(kGet, "1429", 1, &record), head + "</config>\n");
+  EXPECT_EQ(written("1429", kAsk, record), "<REQUEST_PARAM\nalgorithmId=\"a1\"\n/>\n");
+  EXPECT_EQ(written("1429", kAnswer, record), head + "</config>\n");
   record.settings = SYSTEM_CONFIG_HIGH_ALTITUDE_PARABOLIC;
   const std::string parabolic =
       head + element("highAltitudeParabolic", kTold + "ShowTrackLine=\"3\"\n") + "</config>\n";
-  EXPECT_EQ(bodyOf(kGet, "1429", 1, &record), parabolic);
+  EXPECT_EQ(written("1429", kAnswer, record), parabolic);
   record.settings = SYSTEM_CONFIG_LICENSE_PLATE_RECOGNITION;
   EXPECT_EQ(
-      bodyOf(kSet, "1430", 0, &record),
+      written("1430", kAsk, record),
       head + element("licensePlateRecognition", kRequested + withoutDefaults(kPlateTold) + range) + "</config>\n");
 
-  const auto read = analysed<SYSTEM_CONFIG_GET_1429_PARAM>(kGet, "1429", parabolic);
+  const auto read = *readBody<SYSTEM_CONFIG_GET_1429_PARAM>("1429", parabolic);
   EXPECT_EQ(read.settings, SYSTEM_CONFIG_HIGH_ALTITUDE_PARABOLIC);
   expectRule(read.highAltitudeParabolic, true);
   EXPECT_EQ(read.ShowTrackLine, 3);
-  const auto plate = analysed<SYSTEM_CONFIG_GET_1429_PARAM>(kSet, "1430", bodyOf(kSet, "1430", 0, &record));
+  const auto plate = *readBody<SYSTEM_CONFIG_GET_1429_PARAM>("1430", written("1430", kAsk, record));
   EXPECT_EQ(plate.settings, SYSTEM_CONFIG_LICENSE_PLATE_RECOGNITION);
   EXPECT_EQ(plate.StrongLightSupprSensRange[1], 9);
   EXPECT_EQ(plate.ShowTrackLine, -1);
-  EXPECT_STREQ(analysed<SYSTEM_CONFIG_GET_1429_PARAM>(kGet, "1429", "<REQUEST_PARAM algorithmId=\"q\"/>").algorithmId,
-               "q");
+  EXPECT_STREQ(readBody<SYSTEM_CONFIG_GET_1429_PARAM>("1429", "<REQUEST_PARAM algorithmId=\"q\"/>")->algorithmId, "q");
 }
 
 TEST_F(SystemConfigAnalyticsTest, FaceRequestReadsTheCountUnderAnotherName) {
@@ -248,19 +255,19 @@ TEST_F(SystemConfigAnalyticsTest, FaceRequestReadsTheCountUnderAnotherName) {
   const std::string answer = element("HumanFaceRecognition", kTold + tail);
   const std::string request = element("HumanFaceRecognition", kRequested + tail);
   const std::string tag = "<SceneAlarmTag\nSceneIndex=\"4\"\nSceneEnable=\"-1\"\nSceneAlias=\"\"\n/>\n";
-  EXPECT_EQ(bodyOf(kGet, "1407", 1, &face), answer);
-  EXPECT_EQ(bodyOf(kSet, "1408", 0, &face), request);
-  EXPECT_EQ(bodyOf(kGet, "1418", 1, &record), "<HumanFaceParam>\n" + answer + tag + "</HumanFaceParam>\n");
+  EXPECT_EQ(written("1407", kAnswer, face), answer);
+  EXPECT_EQ(written("1408", kAsk, face), request);
+  EXPECT_EQ(written("1418", kAnswer, record), "<HumanFaceParam>\n" + answer + tag + "</HumanFaceParam>\n");
   const std::string v2 = "<HumanFaceParam>\n" + request + tag + "</HumanFaceParam>\n";
-  EXPECT_EQ(bodyOf(kSet, "1419", 0, &record), v2);
+  EXPECT_EQ(written("1419", kAsk, record), v2);
 
   using Face = SYSTEM_CONFIG_GET_1407_PARAM;
-  EXPECT_EQ(analysed<Face>(kGet, "1407", answer).AnalysisPeriodNum, 1);
-  const Face lost = analysed<Face>(kSet, "1408", request);
+  EXPECT_EQ(readBody<Face>("1407", answer)->AnalysisPeriodNum, 1);
+  const Face lost = *readBody<Face>("1408", request);
   EXPECT_EQ(lost.AnalysisPeriodNum, -1);
   EXPECT_EQ(lost.AnalysisPeriod[0].start.second, 3);
-  EXPECT_EQ(analysed<Face>(kSet, "1408", "<HumanFaceRecognition AnalysisriodNum=\"2\"/>").AnalysisPeriodNum, 2);
-  const auto read = analysed<SYSTEM_CONFIG_GET_1418_PARAM>(kSet, "1419", v2);
+  EXPECT_EQ(readBody<Face>("1408", "<HumanFaceRecognition AnalysisriodNum=\"2\"/>")->AnalysisPeriodNum, 2);
+  const auto read = *readBody<SYSTEM_CONFIG_GET_1418_PARAM>("1419", v2);
   EXPECT_EQ(read.HumanFaceRecognition.AnalysisPeriodNum, 1);
   EXPECT_EQ(read.SceneAlarmTagCount, 1);
   EXPECT_EQ(read.SceneAlarmTag[0].SceneIndex, 4);
@@ -281,40 +288,27 @@ TEST_F(SystemConfigAnalyticsTest, ImportedFaceBringsATransparentHeaderOfItsOwn) 
       "<LOAD_FACE_YUV_PARAM\nAlias=\"n\"\nBatchChanel=\"-1\"\nListType=\"-1\"\nSerialNum=\"4294967295\"\n/>\n"
       "<TRANSPARENT_HEADER\nTrans_Type=\"x\"\nChannel_ID=\"\"\nSource_Type=\"\"\nSession_ID=\"\"\nTrans_Result=\"\"\n"
       "/>\n";
-  EXPECT_EQ(bodyOf(kGet, "1425", 1, &record), body);
+  EXPECT_EQ(written("1425", kAnswer, record), body);
   // Only a header outside the body makes a document transparent.
-  const auto read = analysed<SYSTEM_CONFIG_GET_1425_PARAM>(kGet, "1425", body);
+  const auto read = *readBody<SYSTEM_CONFIG_GET_1425_PARAM>("1425", body);
   EXPECT_EQ(read.absTime, 4000000000U);
   EXPECT_EQ(read.faceQualityScore, 0.5F);
   EXPECT_STREQ(read.Trans_Type, "x");
 }
 
 TEST_F(SystemConfigAnalyticsTest, SmallMessagesComeBackAsTheyWere) {
-  struct Small {
-    std::string type, code, body;
-    int direction;
-  };
-  const Small messages[] = {
-      {kGet, "1406",
-       "<LicensePlatePicture\nMaxBytesPerPacket=\"1\"\nTimestamp=\"4000000000\"\nLicensePlate=\"p\"\n/>\n", 1},
-      {kGet, "1409",
-       "<HumanFacePicture\nMaxBytesPerPacket=\"1\"\nTimestamp=\"2\"\nSerialNum=\"4000000000\"\nHumanFace=\"f\"\n/>\n",
-       1},
-      {kSet, "1411",
-       "<HumanFaceAdvancedSet\nSimilarityThreshold=\"1\"\nDefaultThreshold=\"2\"\nSimilarityRange=\"3,4\"\n/>\n", 0},
-      {kSet, "1421", "<AlarmAudioCfg\nAlarmAudioIndex=\"1\"\nAlarmAudioOperation=\"2\"\n/>\n", 0},
-      {kGet, "1428",
-       "<RESPONSE_PARAM\nDevSn=\"s\"\nFirmwareVersion=\"f\"\nAvailableSize=\"3\"\n/>\n"
-       "<Algorithms\nalgorithmId=\"a\"\ninstall=\"1\"\nuseStatus=\"2\"\nversion=\"v\"\nisBuildIn=\"3\"\n/>\n"
-       "<Algorithms\nalgorithmId=\"b\"\ninstall=\"4\"\nuseStatus=\"5\"\nversion=\"\"\nisBuildIn=\"6\"\n/>\n",
-       1},
-  };
-  for (const Small& message : messages) {
-    const Analysis read = analysePayload(received(message.type, message.code, message.body));
-    ASSERT_NE(read.result, nullptr) << message.code;
-    EXPECT_EQ(bodyOf(message.type, message.code, message.direction, read.result.get()), message.body);
-    EXPECT_EQ(bodyOf(message.type, message.code, 1 - message.direction, read.result.get()), "") << message.code;
-  }
+  const auto plate = bothWays<SYSTEM_CONFIG_SET_1406_PARAM>(
+      "1406", kAnswer,
+      "<LicensePlatePicture\nMaxBytesPerPacket=\"1\"\nTimestamp=\"4000000000\"\nLicensePlate=\"p\"\n/>\n");
+  EXPECT_EQ(plate->Timestamp, 4000000000U);
+  bothWays<SYSTEM_CONFIG_SET_1409_PARAM>("1409", kAnswer,
+                                         "<HumanFacePicture\nMaxBytesPerPacket=\"1\"\nTimestamp=\"2\"\n"
+                                         "SerialNum=\"4000000000\"\nHumanFace=\"f\"\n/>\n");
+  bothWays<SYSTEM_CONFIG_GET_1410_PARAM>(
+      "1411", kAsk,
+      "<HumanFaceAdvancedSet\nSimilarityThreshold=\"1\"\nDefaultThreshold=\"2\"\nSimilarityRange=\"3,4\"\n/>\n");
+  bothWays<SYSTEM_CONFIG_SET_1421_PARAM>("1421", kAsk,
+                                         "<AlarmAudioCfg\nAlarmAudioIndex=\"1\"\nAlarmAudioOperation=\"2\"\n/>\n");
 }
 
 const std::string kScene =
@@ -329,18 +323,22 @@ const std::string kScene =
 // Every list that a record counts: it comes back as it was, and one too long for the table is cut at its end.
 TEST_F(SystemConfigAnalyticsTest, ListsOfElementsComeBackAndStopAtTheirTables) {
   struct List {
-    std::string type, code, before, item, after;
+    std::string code, before, item, after;
     int direction, capacity;
   };
   const std::string param = "<SceneAlarmParam\nSceneTotal=\"1\"\nSceneTotalMax=\"8\"\nNextSceneIndex=\"-1\"\n/>\n";
   const std::string type = "<AlarmType\nAlarmTypeIndex=\"1\"\nAlarmTypeEnable=\"2\"\nAlarmTypeName=\"t\"\n/>\n";
   const std::string database = "<faceDatabase\nListType=\"1\"\nAmount=\"2\"\nCapacity=\"3\"\naddAllow=\"4\"\n/>\n";
   const std::string audio = "<AlarmAudio\nAlarmAudioIndex=\"1\"\nAlarmAudioEnable=\"2\"\nAlarmAudioName=\"n\"\n/>\n";
+  const std::string facts = "<RESPONSE_PARAM\nDevSn=\"s\"\nFirmwareVersion=\"f\"\nAvailableSize=\"3\"\n/>\n";
+  const std::string algorithm =
+      "<Algorithms\nalgorithmId=\"a\"\ninstall=\"1\"\nuseStatus=\"2\"\nversion=\"v\"\nisBuildIn=\"3\"\n/>\n";
   const List lists[] = {
-      {kGet, "1420", "<SceneAudio>\n", audio, "</SceneAudio>\n", 1, SYSTEM_CONFIG_ALARM_AUDIOS},
-      {kGet, "1422", "<SceneAlarm>\n" + param, type, kScene + "</SceneAlarm>\n", 1, SYSTEM_CONFIG_ALARM_TYPES},
-      {kSet, "1423", "<SceneAlarm>\n" + param + type, kScene, "</SceneAlarm>\n", 0, SYSTEM_CONFIG_SCENES},
-      {kGet, "1424", "", database, "", 1, SYSTEM_CONFIG_FACE_DATABASES},
+      {"1420", "<SceneAudio>\n", audio, "</SceneAudio>\n", kAnswer, SYSTEM_CONFIG_ALARM_AUDIOS},
+      {"1422", "<SceneAlarm>\n" + param, type, kScene + "</SceneAlarm>\n", kAnswer, SYSTEM_CONFIG_ALARM_TYPES},
+      {"1423", "<SceneAlarm>\n" + param + type, kScene, "</SceneAlarm>\n", kAsk, SYSTEM_CONFIG_SCENES},
+      {"1428", facts, algorithm, "", kAnswer, SYSTEM_CONFIG_ALGORITHMS},
+      {"1424", "", database, "", kAnswer, SYSTEM_CONFIG_FACE_DATABASES},
   };
   for (const List& list : lists) {
     const auto bodyWith = [&list](int count) {
@@ -349,9 +347,9 @@ TEST_F(SystemConfigAnalyticsTest, ListsOfElementsComeBackAndStopAtTheirTables) {
       return body + list.after;
     };
     for (const int count : {1, list.capacity, list.capacity + 5}) {
-      const Analysis read = analysePayload(received(list.type, list.code, bodyWith(count)));
+      const Analysis read = analysePayload(received(kConfigType, list.code, bodyWith(count)));
       ASSERT_NE(read.result, nullptr) << list.code;
-      EXPECT_EQ(bodyOf(list.type, list.code, list.direction, read.result.get()),
+      EXPECT_EQ(bodyOf(kConfigType, list.code, list.direction, read.result.get()),
                 bodyWith(std::min(count, list.capacity)));
     }
   }

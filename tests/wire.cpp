@@ -1,6 +1,8 @@
 #include "wire.h"
 
 #include <cstring>
+#include <fstream>
+#include <functional>
 #include <vector>
 
 namespace kov::test {
@@ -14,6 +16,14 @@ std::string between(const std::string& text, const std::string& opening, const s
   if (begin == std::string::npos || end == std::string::npos) return text;
   const std::size_t from = begin + opening.size();
   return from >= end ? "" : text.substr(from, end - from);
+}
+
+// With KOV_SEEDS naming a directory, the documents of all tests are left there: seeds for the fuzz targets.
+void keepAsSeed(const std::string& document) {
+  constexpr std::size_t kLargest = 4096;
+  const char* const directory = std::getenv("KOV_SEEDS");
+  if (directory == nullptr || document.size() > kLargest) return;
+  std::ofstream(std::string(directory) + "/" + std::to_string(std::hash<std::string>()(document))) << document;
 }
 
 }  // namespace
@@ -49,6 +59,7 @@ std::string received(const std::string& type, const std::string& code, const std
 Analysis analysePayload(const std::string& payload, int decodeMode, void* key) {
   const std::unique_ptr<char[]> exact(new char[payload.size()]);
   std::memcpy(exact.get(), payload.data(), payload.size());
+  keepAsSeed(payload);
   Analysis analysis;
   void* result = nullptr;
   analysis.code = KovProtocolMSGAnalysisStart(exact.get(), static_cast<int>(payload.size()), decodeMode, key,

@@ -12,6 +12,8 @@
 #include "kov_protocol/kov_protocol.h"
 #include "kov_protocol/system_config_alarm.h"
 #include "kov_protocol/system_config_analytics.h"
+#include "kov_protocol/system_config_channel.h"
+#include "kov_protocol/system_config_network.h"
 
 #ifdef __cplusplus
 extern "C" {

@@ -3,6 +3,9 @@
 
 #include "config/alarm.h"
 #include "config/analytics.h"
+#include "config/channel.h"
+#include "config/network.h"
+#include "control/system_control.h"
 #include "core/family.h"
 #include "kov_platform/services.h"
 #include "kov_protocol/system_config.h"
@@ -14,8 +17,13 @@ namespace {
 constexpr CodeRow kReservedRows[] = {{3802, nullptr}};
 constexpr CodeGroup kReservedCodes = kReservedRows;
 
+// The abilities of a device are asked for under the control type and under these.
+constexpr CodeRow kSharedRows[] = {{1020, &kGetSysAbality}};
+constexpr CodeGroup kSharedWithControl = kSharedRows;
+
 constexpr const CodeGroup* kGroups[] = {
-    &kReservedCodes, &kAlarmCodes, &kRuleCodes, &kAlgorithmCodes, &kFaceCodes, &kSceneCodes,
+    &kReservedCodes, &kSharedWithControl, &kNetworkCodes, &kChannelCodes, &kAlarmCodes,
+    &kRuleCodes,     &kAlgorithmCodes,    &kFaceCodes,    &kSceneCodes,
 };
 
 void logUnknown(const char*, int code) {

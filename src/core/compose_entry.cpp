@@ -149,6 +149,13 @@ int composeTransparent(const TRANSPARENT_HEADER& record, const Encoding& encodin
   return frameDocument(out, outSize, static_cast<std::int64_t>(openingLength) + payload, encoding, 0);
 }
 
+// A bare document may fill the output to its last byte, which then belongs to the closing tag and not to a NUL.
+int composeBare(Request& request, char* out, int outSize) {
+  const int length = composeAt(request, out, static_cast<std::size_t>(outSize), outSize);
+  if (length == outSize) out[outSize - 1] = '>';
+  return length;
+}
+
 int composeMessage(Request& request, const Encoding& encoding, char* out, int outSize) {
   const FamilyRow* const row = findFamily(request.type.text(), request.type.length(), request.code.text());
   if (request.param != nullptr) {
@@ -159,8 +166,7 @@ int composeMessage(Request& request, const Encoding& encoding, char* out, int ou
     }
     request.family = row->family;
   }
-  const bool bare = row != nullptr && row->framing == Framing::Bare;
-  if (bare) return composeAt(request, out, static_cast<std::size_t>(outSize), outSize);
+  if (row != nullptr && row->framing == Framing::Bare) return composeBare(request, out, outSize);
   return composeFramed(request, encoding, out, outSize);
 }
 

@@ -1,0 +1,167 @@
+#include "kov_protocol/alarm_report.h"
+
+#include <algorithm>
+
+#include "every_message.h"
+#include "wire.h"
+
+namespace kov::test {
+namespace {
+
+using Alarm = ALARM_REPORT_CMD_RPEORT_ALARM_PARAM;
+using Face = ALARM_REPORT_HUMAN_FACE_INFO;
+
+const std::string kType = ALARM_REPORT_MESSAGE_TYPE;
+const std::string kCode = ALARM_REPORT_MESSAGE_CODE;
+
+void fillAlarm(void* record, unsigned char value) {
+  std::memset(record, value, sizeof(Alarm));
+  static_cast<Alarm*>(record)->pExData = nullptr;
+}
+
+void fillFaceAlarm(void* record, unsigned char value) {
+  static Face face;
+  std::memset(static_cast<void*>(&face), value, sizeof face);
+  fillAlarm(record, value);
+  static_cast<Alarm*>(record)->Alarm_code = 38;
+  static_cast<Alarm*>(record)->pExData = &face;
+}
+
+const AlsoTested kAlarm({kType, kCode, kRecordType<Alarm>, fillAlarm});
+const AlsoTested kFaceAlarm({kType, kCode, kRecordType<Alarm>, fillFaceAlarm});
+
+const std::string kOpening = "<ALARM_REPORT_PARAM>\n<ALARM_ITEM>\n<ALARM_INFO\n";
+const std::string kEnding = "</ALARM_ITEM>\n</ALARM_REPORT_PARAM>\n";
+
+// An alarm as it arrives, with what stands behind the document.
+class Arrived {
+ public:
+  explicit Arrived(const std::string& extra, const std::string& tail = "")
+      : analysis_(analysePayload(received(kType, kCode, kOpening + "/>\n" + extra + kEnding) + tail)) {
+    EXPECT_EQ(analysis_.code, 0);
+  }
+  Alarm& alarm() const { return *static_cast<Alarm*>(analysis_.result.get()); }
+  // The memory behind the record has room for a face, whatever arrived.
+  Face& extra() const {
+    EXPECT_EQ(alarm().pExData, static_cast<char*>(analysis_.result.get()) + sizeof(Alarm));
+    return *static_cast<Face*>(alarm().pExData);
+  }
+  std::string bodyAs(std::int32_t code) const {
+    alarm().Alarm_code = code;
+    return bodyOf(kType, kCode, 0, &alarm());
+  }
+
+ private:
+  Analysis analysis_;
+};
+
+std::uint32_t extraLengthOf(const Alarm& alarm, int direction = 0) {
+  char out[2048];
+  std::uint32_t extraLength = 7;
+  EXPECT_EQ(AlarmReportMessageCompose(&alarm, direction, out, sizeof out, &extraLength), 0);
+  return extraLength - 7;
+}
+
+class AlarmReportTest : public WireTest {};
+
+TEST_F(AlarmReportTest, ElementsAreLeftOutWhileUnset) {
+  Alarm alarm;
+  alarm.Alarm_code = 38;
+  const std::string info = "Alarm_code=\"38\"\nAlarm_flag=\"-1\"\nAlarm_level=\"-1\"\nAlarm_data=\"\"\n";
+  EXPECT_EQ(bodyOf(kType, kCode, 0, &alarm), kOpening + info + "/>\n" + kEnding);
+  const std::string full =
+      "<ALARM_REPORT_PARAM>\n<SRC_INFO\nSrc=\"1\"\nChannelId=\"2\"\n/>\n<ALARM_ITEM>\n<ALARM_INFO\n" + info +
+      "Alarm_absTime=\"-2\"\n/"
+      ">\n<ALARM_TIME\nYear=\"3\"\nMonth=\"4\"\nDay=\"5\"\nWDay=\"6\"\nHour=\"7\"\nMinute=\"8\"\n"
+      "Second=\"9\"\n/>\n" +
+      kEnding;
+  alarm = analysed<Alarm>(kType, kCode, full);
+  EXPECT_EQ(alarm.pExData, nullptr);
+  EXPECT_EQ(failures(), std::vector<std::string>{});
+  EXPECT_EQ(bodyOf(kType, kCode, 4, &alarm), full);
+}
+
+TEST_F(AlarmReportTest, FaceGoesWithItsFeatureData) {
+  const std::string element =
+      "<HumanFaceInfo\nAge=\"1\"\nGender=\"2\"\nIsGlasses=\"3\"\nIsMask=\"4\"\nIsHat=\"5\"\nDataLen=\"6\"\n"
+      "SimilarityThreshold=\"7\"\nSerialNum=\"4294967295\"\nAlgVer=\"2\"\nuniqueIndex=\"u\"\nabsTime=\"-9\"\n"
+      "faceQualityScore=\"0.500000\"\nHsvAreaScore=\"-1.000000\"\nBlurSMD=\"2.250000\"\nErrorCode=\"-3\"\n/>\n";
+  const Arrived face(element + "<ANIMAL_INFO Animal_type=\"1\"/>");
+  for (const int code : {38, 39}) {
+    EXPECT_NE(face.bodyAs(code).find("/>\n" + element + kEnding), std::string::npos);
+  }
+  EXPECT_EQ(extraLengthOf(face.alarm()), 1028U);
+  EXPECT_EQ(extraLengthOf(face.alarm(), 3), 0U);
+  face.extra().AlgVer = 1;
+  EXPECT_EQ(extraLengthOf(face.alarm()), 516U);
+  EXPECT_EQ(Arrived("<HumanFaceInfo absTime=\"4294967294\"/>").extra().absTime, -2);
+}
+
+TEST_F(AlarmReportTest, FeatureDataIsTakenAsFarAsItWasReceived) {
+  const auto taken = [](const std::string& element, const std::string& tail) {
+    const Face face = Arrived(element, tail).extra();
+    EXPECT_STREQ(face.uniqueIndex, "");
+    return std::string(face.feature, std::find(face.feature, std::end(face.feature), 0));
+  };
+  const std::string data = "abcd" + std::string(2000, 'F');
+  EXPECT_EQ(taken("<HumanFaceInfo AlgVer=\"2\"/>", data), std::string(1024, 'F'));
+  EXPECT_EQ(taken("<HumanFaceInfo AlgVer=\"1\"/>", data), std::string(512, 'F'));
+  for (const std::size_t length : {0U, 3U, 4U}) EXPECT_EQ(taken("<HumanFaceInfo/>", data.substr(0, length)), "");
+  EXPECT_EQ(taken("<HumanFaceInfo/>", data.substr(0, 1000)), std::string(996, 'F'));
+
+  // The caller of the function vouches for what a face needs, and no more is read.
+  std::string text = received(kType, kCode, kOpening + "/><HumanFaceInfo AlgVer=\"1\"/>" + kEnding);
+  text += std::string(4, '\0') + std::string(512, 'F');
+  void* result = nullptr;
+  ASSERT_EQ(AlarmReportMessageAnalysis(std::vector<char>(text.begin(), text.end()).data(), &result), 0);
+  EXPECT_EQ(static_cast<Face*>(static_cast<Alarm*>(result)->pExData)->feature[511], 'F');
+  KovProtocolMSGAnalysisStop(&result);
+}
+
+TEST_F(AlarmReportTest, SmallerExtrasHaveRoomForAFace) {
+  const std::string tail(2000, 'F');
+  const Arrived animal("<CROSSBORDER_INFO/><ANIMAL_INFO Animal_type=\"9\"/>", tail);
+  EXPECT_NE(animal.bodyAs(45).find("<ANIMAL_INFO\nAnimal_type=\"9\"\n/>\n" + kEnding), std::string::npos);
+  EXPECT_EQ(extraLengthOf(animal.alarm()), 0U);
+  EXPECT_NE(animal.bodyAs(38).find("<HumanFaceInfo\nAge=\"9\"\nGender=\"0\"\n"), std::string::npos);
+  EXPECT_EQ(animal.extra().feature[0], 0);
+
+  const Arrived crossing("<CROSSBORDER_INFO CrowdFlowStatEnable=\"1\" CrowdFlowNum=\"7\"/>", tail);
+  const auto& read = *static_cast<ALARM_REPORT_CROSSBORDER_INFO*>(crossing.alarm().pExData);
+  EXPECT_EQ(read.CrowdFlowStatEnable, 1);
+  EXPECT_EQ(read.CrowdFlowNum, 7);
+  resetPlatform();
+  EXPECT_EQ(crossing.bodyAs(40).find("CROSSBORDER"), std::string::npos);
+  EXPECT_EQ(failures(),
+            std::vector<std::string>{"D ALARM_REPORT_MESSAGE message deal alarm_code:40 , code has pExData, "
+                                     "but unknow type to use\n"});
+}
+
+TEST_F(AlarmReportTest, TellsWhatItRefuses) {
+  Alarm alarm;
+  char out[8] = "?";
+  std::uint32_t extraLength = 0;
+  EXPECT_EQ(AlarmReportMessageCompose(nullptr, 0, out, 8, &extraLength), 0);
+  EXPECT_EQ(AlarmReportMessageCompose(&alarm, 1, out, 8, &extraLength), 0);
+  EXPECT_EQ(AlarmReportMessageCompose(&alarm, 0, out, 8, nullptr), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(AlarmReportMessageAnalysis("", nullptr), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(logLines(),
+            (std::vector<std::string>{"I ALARM_REPORT_MESSAGE response message Not have Body, please check msgtype\n",
+                                      "E ALARM_REPORT_MESSAGE put a empty Param\n",
+                                      "E AlarmReportMessageAnalysis put a empty Param\n"}));
+  EXPECT_STREQ(out, "?");
+
+  EXPECT_EQ(documentOf(kType, "CMD_OTHER", 0, &alarm), "code -1000");
+  EXPECT_EQ(failures()[2], "E PTZ_CONTROL_MESSAGE deal a unknow Msg_code:CMD_OTHER !!!\n");
+  resetPlatform();
+  EXPECT_EQ(analysisCode(kType, "CMD_OTHER", "<ALARM_REPORT_PARAM/>"), KOV_ERROR_NO_ELEMENT);
+  EXPECT_EQ(analysisCode(kType, kCode, "<ALARM_ITEM/>"), KOV_ERROR_NO_ELEMENT);
+  void* result = nullptr;
+  EXPECT_EQ(AlarmReportMessageAnalysis("<XML_ZANTIR/>", &result), KOV_ERROR_BAD_DOCUMENT);
+  EXPECT_EQ(failures(), (std::vector<std::string>{"E AlarmReportMessageAnalysis get ALARM_ITEM error\n",
+                                                  "E AlarmReportMessageAnalysis get ALARM_REPORT_PARAM error\n",
+                                                  "E AlarmReportMessageAnalysis get MESSAGE_BODY error\n"}));
+}
+
+}  // namespace
+}  // namespace kov::test

@@ -1,0 +1,134 @@
+#include "kov_protocol/live_stream.h"
+
+#include "every_message.h"
+#include "wire.h"
+
+namespace kov::test {
+namespace {
+
+using Start = LIVE_STREAM_CMD_STREAM_START_PARAM;
+using Stop = LIVE_STREAM_CMD_STREAM_STOP_PARAM;
+
+const std::string kType = LIVE_STREAM_MESSAGE_TYPE;
+
+const AlsoTested kStart({kType, "CMD_STREAM_START", kRecordType<Start>});
+const AlsoTested kStartNumber({kType, "1062", kRecordType<Start>});
+const AlsoTested kStop({kType, "CMD_STREAM_STOP", kRecordType<Stop>});
+const AlsoTested kQuality({kType, "CMD_STREAM_QUALITY", kRecordType<Stop>});
+
+const std::string kNumbers = "ChannelId=\"2\"\nStreamID=\"7\"\nConnectNum=\"5\"\nStreamNum=\"-1\"\n";
+const std::string kVideo =
+    "<VIDEO_PARAM\nEncoder=\"v\"\nWidth=\"1\"\nHeight=\"2\"\nFramerate=\"3\"\nBitrate=\"4\"\nConfig=\"c\"\n/>\n";
+const std::string kAudio =
+    "<AUDIO_PARAM\nEncoder=\"a\"\nSampleRate=\"5\"\nSampleWidth=\"6\"\nChannels=\"7\"\nBitrate=\"8\"\n/>\n";
+
+// What arrives with numbers in the header.
+Start arrived(const std::string& body) {
+  const Analysis analysis = analysePayload(received(kType, "CMD_STREAM_START", body, kNumbers));
+  EXPECT_EQ(analysis.code, 0);
+  return analysis.result == nullptr ? Start{} : *static_cast<Start*>(analysis.result.get());
+}
+
+std::string answer(Start& record) { return bodyOf(kType, "1062x", 3, &record); }
+
+class LiveStreamTest : public WireTest {};
+
+// The channel comes from the header only, and the header's stream fills in for a missing VideoStream.
+TEST_F(LiveStreamTest, ResponseTellsTheTransport) {
+  Start record = arrived("<TRANS_PARAM ChannelId=\"8\" StreamID=\"9\"/>" + kVideo + kAudio);
+  const std::string opening = "<TRANS_PARAM\nChannelId=\"2\"\nStreamID=\"9\"\nVideoStream=\"7\"\n";
+  EXPECT_EQ(answer(record), opening + "AudioEnable=\"0\"\nVideoPort=\"-1\"\n/>\n" + kVideo);
+  record.AudioPort = 6;
+  record.UseTcp = 0;
+  record.Multicast = 0;
+  set(record.MulticastAddress, "m");
+  record.EnableChangeStream = 0;
+  const std::string group = "Multicast=\"0\"\nMulticastAddress=\"m\"\nVideoPort=\"-1\"\n";
+  const std::string ending = "EnableChangeStream=\"0\"\n/>\n" + kVideo;
+  EXPECT_EQ(answer(record), opening + "AudioEnable=\"0\"\n" + group + ending);
+  record.AudioEnable = 2;
+  EXPECT_EQ(answer(record), opening + "AudioEnable=\"1\"\n" + group + "AudioPort=\"6\"\n" + ending + kAudio);
+  record.UseTcp = 1;
+  EXPECT_EQ(answer(record), opening + "AudioEnable=\"1\"\nUseTcp=\"1\"\n" + ending + kAudio);
+}
+
+TEST_F(LiveStreamTest, ResponseNumbersStandInTheHeader) {
+  Start record = arrived("<TRANS_PARAM StreamID=\"7\" VideoStream=\"0\" AudioEnable=\"1\"/>");
+  EXPECT_EQ(record.VideoStream, 0);
+  EXPECT_EQ(record.AudioEnable, 1);
+  record.VideoStream = -1;
+  const auto position = [&record](int direction, const std::string& text) {
+    return documentOf(kType, "CMD_STREAM_START", direction, &record).find(text);
+  };
+  EXPECT_NE(position(1, "Msg_flag=\"\"\n" + kNumbers + "\n/>\n<MESSAGE_BODY>\n</MESSAGE_BODY>\n"), std::string::npos);
+  EXPECT_EQ(position(0, "ConnectNum"), std::string::npos);
+  record.ConnectNum = -1;
+  EXPECT_EQ(position(1, "StreamNum"), std::string::npos);
+}
+
+TEST_F(LiveStreamTest, RequestGoesBeforeTheElementsOfAResponse) {
+  Start record = arrived("<STREAM_START_PARAM ChannelId=\"4\"/><TRANS_PARAM StreamID=\"9\"/>");
+  EXPECT_EQ(record.StreamID, -1);
+  EXPECT_EQ(bodyOf(kType, "1062", 2, &record), "<STREAM_START_PARAM\nChannelId=\"4\"\nVideoStream=\"7\"\n/>\n");
+}
+
+TEST_F(LiveStreamTest, StopAndQualityReadAnyTextAsANumber) {
+  const auto again = [](const std::string& code, const std::string& element) {
+    const std::string attributes = " ChannelId=\"x\" StreamID=\"\" FrameType=\"8\" UseTcp=\"9y\"/>";
+    const auto record = analysed<Stop>(kType, code, "<" + element + attributes);
+    return bodyOf(kType, code, 1, &record);
+  };
+  EXPECT_EQ(again("CMD_STREAM_STOP", "STREAM_STOP_PARAM"),
+            "<STREAM_STOP_PARAM\nChannelId=\"0\"\nStreamID=\"0\"\nUseTcp=\"9\"\n/>\n");
+  EXPECT_EQ(again("CMD_STREAM_QUALITY", "STREAM_QUALITY_PARAM"),
+            "<STREAM_QUALITY_PARAM\nChannelId=\"0\"\nStreamID=\"0\"\nFrameType=\"8\"\n/>\n");
+}
+
+TEST_F(LiveStreamTest, TellsWhatItRefusesButNotBadText) {
+  char body[8] = "?";
+  void* result = nullptr;
+  EXPECT_EQ(LiveStreamMessageCompose("", 0, nullptr, body, 8, nullptr, 0, 0), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(LiveStreamMessageAnalysis(nullptr, "1062", &result), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(LiveStreamMessageAnalysis("", "CMD_STREAM_STOP", nullptr), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(LiveStreamMessageCompose(nullptr, 0, "1062", body, 8, nullptr, 0, 0), 0);
+  EXPECT_EQ(LiveStreamMessageCompose(nullptr, 0, "CMD", body, 8, nullptr, 0, 0), KOV_ERROR_UNKNOWN_MESSAGE);
+  EXPECT_EQ(LiveStreamMessageAnalysis("", "CMD", &result), KOV_ERROR_UNKNOWN_MESSAGE);
+  EXPECT_EQ(analysisCode(kType, "CMD", ""), KOV_ERROR_UNKNOWN_MESSAGE);
+  EXPECT_EQ(LiveStreamMessageAnalysis("<XML_ZANTIR>", "1062", &result), KOV_ERROR_BAD_DOCUMENT);
+  EXPECT_EQ(LiveStreamCmdStartMessageAnalysis("<XML_ZANTIR/>", &result), KOV_ERROR_BAD_DOCUMENT);
+  EXPECT_EQ(analysisCode(kType, "1062", kVideo), KOV_ERROR_NO_ELEMENT);
+  EXPECT_EQ(analysisCode(kType, "CMD_STREAM_QUALITY", "<STREAM_STOP_PARAM/>"), KOV_ERROR_NO_ELEMENT);
+  const std::string empty = "E LIVE_STREAM_MESSAGE put a empty Param\n";
+  const std::string unknown = "E LIVE_STREAM_MESSAGE deal a unknow Msg_code:CMD !!!\n";
+  EXPECT_EQ(failures(),
+            (std::vector<std::string>{empty, empty, "E LiveStreamCmdStopMessageAnalysis put a empty Param\n", unknown,
+                                      unknown, unknown, "E LiveStreamCmdStartMessageAnalysis get MESSAGE_BODY error\n",
+                                      "E LiveStreamCmdStartMessageAnalysis get STREAM_START_PARAM error\n",
+                                      "E LiveStreamCmdQualityMessageAnalysis get STREAM_QUALITY_PARAM error\n"}));
+  EXPECT_STREQ(body, "?");
+  EXPECT_EQ(result, nullptr);
+}
+
+TEST_F(LiveStreamTest, HeaderAttributesStayInTheirBuffer) {
+  const Start record = arrived("<TRANS_PARAM StreamID=\"7\"/>");
+  const auto extras = [&record](int size, int length, std::size_t room) {
+    const std::unique_ptr<char[]> buffer(new char[room]);
+    std::memcpy(buffer.get(), "x\n", 3);
+    char body[64] = "";
+    EXPECT_EQ(LiveStreamMessageCompose(&record, 1, "1062", body, sizeof body, buffer.get(), size, length), 0);
+    EXPECT_EQ(std::string(body).substr(0, 12), "<TRANS_PARAM");
+    return std::string(buffer.get());
+  };
+  const std::size_t exact = kNumbers.size() + 3;
+  const int size = static_cast<int>(exact);
+  EXPECT_EQ(extras(size, 2, exact), "x\n" + kNumbers);
+  EXPECT_EQ(extras(size - 1, 2, exact - 1), "x\n" + kNumbers.substr(0, kNumbers.find("StreamNum")));
+  for (const int length : {-1, 3, INT32_MAX}) EXPECT_EQ(extras(3, length, 3), "x\n");
+  EXPECT_EQ(extras(-1, 2, 3), "x\n");
+  EXPECT_EQ(extras(size, -1, exact), "x\n");
+  char body[8];
+  EXPECT_EQ(LiveStreamMessageCompose(&record, 1, "1062", body, sizeof body, nullptr, 256, 0), 0);
+}
+
+}  // namespace
+}  // namespace kov::test

@@ -1,0 +1,76 @@
+// Configuration messages on the wire: what the tests of all their groups ask.
+#pragma once
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "every_message.h"
+#include "wire.h"
+
+namespace kov::test {
+
+// Either type serves all codes.
+inline const std::string kConfigType = "SYSTEM_CONFIG_GET_MESSAGE";
+constexpr int kAsk = 0;
+constexpr int kAnswer = 1;
+
+template <class Record>
+std::string written(const std::string& code, int direction, const Record& record) {
+  return bodyOf(kConfigType, code, direction, &record);
+}
+
+// Some results are large and stay in their heap block.
+template <class Record>
+using Result = std::unique_ptr<Record, FreeBlock>;
+
+template <class Record>
+Result<Record> readBody(const std::string& code, const std::string& body) {
+  Analysis analysis = analysePayload(received(kConfigType, code, body));
+  EXPECT_EQ(analysis.code, 0) << code << "\n" << body;
+  if (analysis.result == nullptr) throw std::runtime_error("no record of " + code);
+  return Result<Record>(static_cast<Record*>(analysis.result.release()));
+}
+
+// Reads a body, and expects the record to give the same text again.
+template <class Record>
+Result<Record> bothWays(const std::string& code, int direction, const std::string& body) {
+  Result<Record> result = readBody<Record>(code, body);
+  EXPECT_EQ(written(code, direction, *result), body);
+  return result;
+}
+
+// The directions from 0 to 4 that give a group's messages a text: "300:134 325:02 "
+inline std::string sidesOf(const CodeGroup& codes) {
+  std::string sides;
+  for (const CodeRow& row : codes) {
+    const TestedMessage message = {kConfigType, std::to_string(row.code), row.message->record()};
+    const RecordBlock record = filledRecord(message, 1);
+    sides += message.code + ":";
+    for (const int direction : {0, 1, 2, 3, 4}) {
+      if (!bodyOf(kConfigType, message.code, direction, record.get()).empty()) sides += std::to_string(direction);
+    }
+    sides += " ";
+  }
+  return sides;
+}
+
+// What the analyses of a group tell about an empty body, cut to names: "getNetconfig NetworkConfig; "
+inline std::string missingOf(const CodeGroup& codes) {
+  std::string told;
+  for (const CodeRow& row : codes) {
+    resetPlatform();
+    const int code = analysisCode(kConfigType, std::to_string(row.code), "");
+    if (code == 0) continue;
+    EXPECT_EQ(code, KOV_ERROR_NO_ELEMENT) << row.code;
+    std::string line = failures().front();
+    for (const std::string part : {"E SystemConfig_", "_MessageAnalysis get", " error\n"}) {
+      const std::size_t at = line.find(part);
+      if (at != std::string::npos) line.erase(at, part.size());
+    }
+    told += line + "; ";
+  }
+  return told;
+}
+
+}  // namespace kov::test

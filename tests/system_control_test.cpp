@@ -1,0 +1,301 @@
+// Dispatch of the system control family, and the codes that run more than one message.
+#include "kov_protocol/system_control.h"
+
+#include <cstring>
+
+#include "control/control_messages.h"
+#include "every_message.h"
+#include "kov_protocol/system_config.h"
+#include "wire.h"
+
+namespace kov::test {
+namespace {
+
+const std::string kType = SYSTEM_CONTROL_MESSAGE_TYPE;
+
+const NoRoundTrip kIrcut(kType, "1046", "its code is unknown to analysis");
+const NoRoundTrip kKeyFrame(kType, "1032", "a record of equal bytes names neither spelling");
+
+using Lines = std::vector<std::string>;
+
+class SystemControlTest : public WireTest {
+ protected:
+  // What the exported dispatcher makes of a body, as against the entry.
+  Analysis dispatched(const std::string& code, const std::string& body) {
+    Analysis analysis;
+    void* result = nullptr;
+    analysis.code = SystemControlMessageAnalysis(received(kType, code, body).c_str(), code.c_str(), &result);
+    analysis.result.reset(result);
+    return analysis;
+  }
+};
+
+TEST_F(SystemControlTest, CodesWithoutBodySucceedAndTouchNothing) {
+  for (const char* code : {"828", "1001", "1002", "1007", "1025", "1027", "1096", "1097", "1100", "3010", "3021",
+                           "3022", "5010", "5011"}) {
+    char body[8] = "?";
+    int untouched = 0;
+    void* result = &untouched;
+    EXPECT_EQ(SystemControlMessageCompose("", 1, code, body, sizeof body), 0) << code;
+    EXPECT_STREQ(body, "?");
+    EXPECT_EQ(SystemControlMessageAnalysis("no document", code, &result), 0) << code;
+    EXPECT_EQ(result, &untouched);
+    EXPECT_EQ(bodyOf(kType, code, 0, ""), "") << code;
+    EXPECT_EQ(analysisCode(kType, code, ""), 0) << code;
+  }
+  EXPECT_EQ(failures(), Lines());
+}
+
+TEST_F(SystemControlTest, UnknownCodesAreToldByNumber) {
+  char body[8] = "?";
+  void* result = nullptr;
+  for (const char* code : {"1003", "3024", "5012"}) {
+    resetPlatform();
+    EXPECT_EQ(SystemControlMessageCompose(body, 1, code, body, 8), KOV_ERROR_UNKNOWN_MESSAGE);
+    EXPECT_EQ(SystemControlMessageAnalysis("", code, &result), KOV_ERROR_UNKNOWN_MESSAGE);
+    const std::string line = std::string("E SYSTEM_CONTROL_MESSAGE deal a unknow msg_cdoe : ") + code + "\n";
+    EXPECT_EQ(logLines(), Lines(2, line));
+  }
+  EXPECT_STREQ(body, "?");
+}
+
+TEST_F(SystemControlTest, DispatchersRefuseEmptyArguments) {
+  char body[8] = "?";
+  void* result = nullptr;
+  for (const char* code : {"1014", "1019"}) {
+    resetPlatform();
+    EXPECT_EQ(SystemControlMessageCompose(body, 1, code, nullptr, 8), KOV_ERROR_EMPTY_ARGUMENT);
+    EXPECT_EQ(SystemControlMessageCompose(body, 1, code, body, 0), KOV_ERROR_EMPTY_ARGUMENT);
+    EXPECT_EQ(SystemControlMessageCompose(body, 1, nullptr, body, 8), KOV_ERROR_EMPTY_ARGUMENT);
+    EXPECT_EQ(SystemControlMessageAnalysis(nullptr, code, &result), KOV_ERROR_EMPTY_ARGUMENT);
+    EXPECT_EQ(SystemControlMessageAnalysis("", nullptr, &result), KOV_ERROR_EMPTY_ARGUMENT);
+    EXPECT_EQ(SystemControlMessageAnalysis("", code, nullptr), KOV_ERROR_EMPTY_ARGUMENT);
+    EXPECT_EQ(logLines(), Lines(6, "E SYSTEM_CONTROL_MESSAGE put a empty Param\n"));
+    EXPECT_EQ(SystemControlMessageCompose(nullptr, 1, code, body, 8), 0);
+  }
+  EXPECT_STREQ(body, "?");
+}
+
+TEST_F(SystemControlTest, IrcutIsComposedAndReadByItsOwnFunctionOnly) {
+  SYSTEM_CONTROL_1046_PARAM record;
+  set(record.Mode, "night");
+  const std::string body = "<REQUEST_PARAM\nMode=\"night\"\n/>\n";
+  EXPECT_EQ(bodyOf(kType, "1046", 0, &record), body);
+  void* result = nullptr;
+  ASSERT_EQ(SystemControl_SetIpcIrcut_MessageAnalysis(received(kType, "1046", body).c_str(), &result), 0);
+  EXPECT_STREQ(static_cast<SYSTEM_CONTROL_1046_PARAM*>(result)->Mode, "night");
+  KovProtocolMSGAnalysisStop(&result);
+  EXPECT_EQ(analysisCode(kType, "1046", body), KOV_ERROR_UNKNOWN_MESSAGE);
+  EXPECT_EQ(dispatched("1046", body).code, KOV_ERROR_UNKNOWN_MESSAGE);
+  EXPECT_EQ(failures(), Lines(2, "E SYSTEM_CONTROL_MESSAGE deal a unknow msg_cdoe : 1046\n"));
+}
+
+// ---- 1014: the serial number's body over the storage body
+
+SYSTEM_CONTROL_1014_PARAM threeDevices() {
+  SYSTEM_CONTROL_1014_PARAM record;
+  std::memset(record.Devices[0].DevName, 'n', sizeof record.Devices[0].DevName);  // without a NUL
+  set(record.Devices[1].DevName, "sdb");
+  record.Devices[1].Mounted = 1;
+  record.Devices[1].Percent = 50;
+  return record;
+}
+
+TEST_F(SystemControlTest, StorageAnswerLeavesAsTheFirstDevicesName) {
+  const SYSTEM_CONTROL_1014_PARAM record = threeDevices();
+  const std::string expected = "<RESPONSE_PARAM\nSerialNumber=\"" + std::string(64, 'n') + "\"\n/>\n";
+  char body[2048];
+  for (const int direction : {1, 3, 4, -1}) {
+    EXPECT_EQ(bodyOf(kType, "1014", direction, &record), expected);
+    ASSERT_EQ(SystemControlMessageCompose(&record, direction, "1014", body, sizeof body), 0);
+    EXPECT_EQ(body, expected);
+  }
+  for (int size = 1; size <= 100; size += 11) {
+    const std::unique_ptr<char[]> exact(new char[static_cast<std::size_t>(size)]);
+    ASSERT_EQ(SystemControlMessageCompose(&record, 1, "1014", exact.get(), size), 0);
+    EXPECT_EQ(exact.get(), expected.substr(0, static_cast<std::size_t>(size) - 1));
+  }
+  set(body, "?");
+  EXPECT_EQ(bodyOf(kType, "1014", 0, &record), "");
+  EXPECT_EQ(SystemControlMessageCompose(&record, 2, "1014", body, sizeof body), 0);
+  EXPECT_STREQ(body, "?");
+}
+
+TEST_F(SystemControlTest, StorageBodyRunsItsElementIntoTheFirstAttribute) {
+  const SYSTEM_CONTROL_1014_PARAM record = threeDevices();
+  char text[2048];
+  BodyWriter body(text, sizeof text);
+  ASSERT_EQ(kGetIpcStorageCfg.compose(&record, 1, body), 0);
+  body.terminate();
+  const std::string rest = "\"\nMounted=\"-1\"\nTotal=\"-1\"\nUsed=\"-1\"\nFree=\"-1\"\nPercent=\"-1\"\n/>\n";
+  EXPECT_EQ(text, "<RESPONSE_PARAM>\n<DeviceInfoDevName=\"" + std::string(64, 'n') + rest +
+                      "<DeviceInfoDevName=\"sdb\"\nMounted=\"1\"\nTotal=\"-1\"\nUsed=\"-1\"\nFree=\"-1\"\n"
+                      "Percent=\"50\"\n/>\n<DeviceInfoDevName=\"" +
+                      rest + "</RESPONSE_PARAM>\n");
+}
+
+const std::string kStorage =
+    "<RESPONSE_PARAM><DeviceInfo DevName=\"a\" Total=\"1\"/><DeviceInfo DevName=\"b\" Total=\"2\"/>"
+    "<DeviceInfo DevName=\"c\" Used=\"3\"/></RESPONSE_PARAM>";
+const std::string kNoRequest = "E SystemControl_StorageDeviceFormat_MessageAnalysis get REQUEST_PARAM error\n";
+
+TEST_F(SystemControlTest, StorageAnswerFailsAndLeavesItsRecordWithTheLastDeviceInFront) {
+  for (const bool byEntry : {true, false}) {
+    resetPlatform();
+    const Analysis read = byEntry ? analysePayload(received(kType, "1014", kStorage)) : dispatched("1014", kStorage);
+    EXPECT_EQ(read.code, KOV_ERROR_NO_ELEMENT);
+    EXPECT_EQ(failures(), Lines{kNoRequest});
+    ASSERT_NE(read.result, nullptr);
+    const auto& devices = static_cast<SYSTEM_CONTROL_1014_PARAM*>(read.result.get())->Devices;
+    EXPECT_STREQ(devices[0].DevName, "c");
+    EXPECT_EQ(devices[0].Total, 2);
+    EXPECT_EQ(devices[0].Used, 3);
+    EXPECT_EQ(devices[0].Percent, -1);
+    EXPECT_STREQ(devices[1].DevName, "");
+    EXPECT_EQ(devices[2].Total, -1);
+  }
+}
+
+// The leak checker sees whether the record that is replaced was released.
+TEST_F(SystemControlTest, StorageFormatReplacesTheStorageRecord) {
+  for (const std::string& body :
+       {kStorage + "<REQUEST_PARAM DevName=\"sda\"/>", "<REQUEST_PARAM DevName=\"sda\"/>" + kStorage}) {
+    for (const bool byEntry : {true, false}) {
+      const Analysis read = byEntry ? analysePayload(received(kType, "1014", body)) : dispatched("1014", body);
+      EXPECT_EQ(read.code, 0);
+      ASSERT_NE(read.result, nullptr);
+      EXPECT_STREQ(static_cast<SYSTEM_CONTROL_1017_PARAM*>(read.result.get())->DevName, "sda");
+    }
+  }
+  EXPECT_EQ(failures(), Lines());
+}
+
+TEST_F(SystemControlTest, StorageTellsTheFailuresOfBothMessages) {
+  const std::string storage = "E SystemControl_GetIpcStorageCfg_MessageAnalysis ";
+  const std::string format = "E SystemControl_StorageDeviceFormat_MessageAnalysis ";
+  int untouched = 0;
+  void* result = &untouched;
+  EXPECT_EQ(SystemControlMessageAnalysis("<XML_ZANTIR>", "1014", &result), KOV_ERROR_BAD_DOCUMENT);
+  EXPECT_EQ(SystemControlMessageAnalysis("<XML_ZANTIR/>", "1014", &result), KOV_ERROR_BAD_DOCUMENT);
+  EXPECT_EQ(SystemControlMessageAnalysis("<XML_ZANTIR><MESSAGE_BODY/></XML_ZANTIR>", "1014", &result),
+            KOV_ERROR_NO_ELEMENT);
+  EXPECT_EQ(logLines(), (Lines{storage + "Parse MsgBuf error\n", format + "Parse MsgBuf error\n",
+                               storage + "get MESSAGE_BODY error\n", format + "get MESSAGE_BODY error\n",
+                               storage + "get RESPONSE_PARAM error\n", format + "get REQUEST_PARAM error\n"}));
+  EXPECT_EQ(result, &untouched);
+}
+
+TEST_F(SystemControlTest, StorageWithoutMemoryForEitherRecord) {
+  const std::string both = received(kType, "1014", kStorage + "<REQUEST_PARAM DevName=\"sda\"/>");
+  failAllocation(1);
+  const Analysis first = analysePayload(received(kType, "1014", kStorage));
+  EXPECT_EQ(first.code, KOV_ERROR_NO_ELEMENT);
+  EXPECT_EQ(first.result, nullptr);
+  EXPECT_EQ(failures(), (Lines{"E Malloc Memory failed!\n", kNoRequest}));
+  resetPlatform();
+  failAllocation(2);
+  const Analysis second = analysePayload(both);
+  EXPECT_EQ(second.code, KOV_ERROR_NO_MEMORY);
+  EXPECT_EQ(second.result, nullptr);
+}
+
+// ---- 1012: versions, or a recorder's SystemInfo in their place
+
+TEST_F(SystemControlTest, VersionsNameTheirChannelInThreeWays) {
+  SYSTEM_CONTROL_1012_PARAM record;
+  set(record.KernelVersion, "k");
+  set(record.FileSystemVersion, "f");
+  set(record.DeviceIdentify, "d");
+  const std::string head = "<RESPONSE_PARAM\nKernelVersion=\"k\"\nFileSystemVersion=\"f\"\nDeviceIdentify=\"d\"\n";
+  EXPECT_EQ(bodyOf(kType, "1012", 1, &record), head + "/>\n");
+  record.EmptyChannelId = 0;
+  EXPECT_EQ(bodyOf(kType, "1012", 3, &record), head + "ChannelId=\"\"\n/>\n");
+  record.ChannelId = 4;
+  set(record.FileSystemIdentify, "i");
+  set(record.HardVersion, "h");
+  const std::string body = head + "ChannelId=\"4\"\nFileSystemIdentify=\"i\"\nHardVersion=\"h\"\n/>\n";
+  EXPECT_EQ(bodyOf(kType, "1012", 1, &record), body);
+  EXPECT_EQ(bodyOf(kType, "1012", 0, &record), "");
+
+  const auto read = analysed<SYSTEM_CONTROL_1012_PARAM>(kType, "1012", "<SystemInfo HdNum=\"9\"/>" + body);
+  EXPECT_STREQ(read.HardVersion, "h");
+  EXPECT_EQ(read.HasSystemInfo, -1);
+  EXPECT_EQ(read.SystemInfo.HdNum, -1);
+  EXPECT_EQ(analysed<SYSTEM_CONTROL_1012_PARAM>(kType, "1012", "<REQUEST_PARAM ChannelId=\"5\"/>").ChannelId, 5);
+}
+
+TEST_F(SystemControlTest, VersionsGiveWayToSystemInfo) {
+  SYSTEM_CONTROL_1012_PARAM record;
+  record.HasSystemInfo = 0;
+  record.SystemInfo.ChannelNum = 16;
+  set(record.SystemInfo.TelnetPort, "23");
+  const std::string body =
+      "<SystemInfo ProductModel=\"\"\nCloudID=\"\"\nChannelNum=\"16\"\nHdNum=\"-1\"\nAlarmIn=\"-1\"\nAlarmOut=\"-1\"\n"
+      "SerialNumber=\"\"\nSoftwareVersion=\"\"\nHardwareVersion=\"\"\nReleaseTime=\"\"\nTelnetPort=\"23\"\n/>\n";
+  EXPECT_EQ(bodyOf(kType, "1012", 1, &record), body);
+  EXPECT_EQ(bodyOf(kType, "3000", 1, &record.SystemInfo), body);
+  auto read = analysed<SYSTEM_CONTROL_1012_PARAM>(kType, "1012", body);
+  EXPECT_STREQ(read.SystemInfo.TelnetPort, "23");
+  EXPECT_EQ(bodyOf(kType, "1012", 1, &read), body);
+  const Analysis byText = dispatched("1012", body);
+  ASSERT_EQ(byText.code, 0);
+  EXPECT_EQ(static_cast<SYSTEM_CONTROL_1012_PARAM*>(byText.result.get())->SystemInfo.ChannelNum, 16);
+}
+
+TEST_F(SystemControlTest, VersionsAreToldUnderTheNameOfTheTime) {
+  const std::string name = "E SystemControl_SetIpcTime_MessageAnalysis ";
+  void* result = nullptr;
+  EXPECT_EQ(SystemControl_GetIpcSysVersion_MessageAnalysis(nullptr, &result), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(SystemControl_GetIpcSysVersion_MessageAnalysis("", nullptr), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(SystemControl_GetIpcSysVersion_MessageAnalysis("<XML_ZANTIR>", &result), KOV_ERROR_BAD_DOCUMENT);
+  EXPECT_EQ(SystemControl_GetIpcSysVersion_MessageAnalysis("<XML_ZANTIR/>", &result), KOV_ERROR_BAD_DOCUMENT);
+  EXPECT_EQ(dispatched("1012", "").code, KOV_ERROR_NO_ELEMENT);
+  EXPECT_EQ(dispatched("1005", "").code, KOV_ERROR_NO_ELEMENT);
+  EXPECT_EQ(failures(), (Lines{name + "put a empty Param\n", name + "put a empty Param\n",
+                               name + "Parse MsgBuf error\n", name + "get MESSAGE_BODY error\n",
+                               name + "get RESPONSE_PARAM error\n", name + "get STREAM_START_PARAM error\n"}));
+}
+
+// ---- 1020: also a message of the configuration types
+
+TEST_F(SystemControlTest, AbilitiesAreServedUnderThreeTypes) {
+  SYSTEM_CONTROL_1020_PARAM record;
+  set(record.SystemConfigString, "s");
+  const std::string plain = "<RESPONSE_PARAM\nSystemConfigString=\"s\"\n/>\n";
+  EXPECT_EQ(bodyOf(kType, "1020", 1, &record), plain);
+  record.NoRemoteAuthority = 0;
+  record.vaSeviceId = 7;
+  set(record.PTZControl, "p");
+  set(record.algorithmId, "a");
+  const std::string body =
+      plain +
+      "<REMOTE_AUTHORITY\nRemotePreview=\"\"\nRemotePlayback=\"\"\nPTZControl=\"p\"\n"
+      "SystemSettings=\"-1\"\nRemoteUpgrade=\"-1\"\nTalkingEnble=\"-1\"\nShutDownSystem=\"-1\"\n/>\n"
+      "<AvailableAlId algorithmId=\"a\"/><va_service vaSeviceId=\"7\" />";
+  for (const std::string& type :
+       {kType, std::string(SYSTEM_CONFIG_GET_MESSAGE_TYPE), std::string(SYSTEM_CONFIG_SET_MESSAGE_TYPE)}) {
+    EXPECT_EQ(bodyOf(type, "1020", 1, &record), body);
+    EXPECT_EQ(bodyOf(type, "1020", 0, &record), "");
+    auto read = analysed<SYSTEM_CONTROL_1020_PARAM>(type, "1020", body);
+    EXPECT_EQ(read.NoRemoteAuthority, 0);
+    EXPECT_STREQ(read.PTZControl, "p");
+    EXPECT_EQ(bodyOf(type, "1020", 1, &read), body);
+    EXPECT_EQ(analysed<SYSTEM_CONTROL_1020_PARAM>(type, "1020", plain).NoRemoteAuthority, -1);
+  }
+}
+
+TEST_F(SystemControlTest, AbilitiesHaveAComposeFunctionOfTheirOwn) {
+  SYSTEM_CONTROL_1020_PARAM record;
+  char body[16] = "?";
+  EXPECT_EQ(SystemControl_GetSysAbality_MessageCompose(&record, 2, body, 16), 0);
+  EXPECT_STREQ(body, "?");
+  EXPECT_EQ(SystemControl_GetSysAbality_MessageCompose(nullptr, 1, body, 16), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(SystemControl_GetSysAbality_MessageCompose(&record, 1, nullptr, 16), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(SystemControl_GetSysAbality_MessageCompose(&record, 1, body, 0), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(logLines(), Lines(3, "I SystemControl_GetSysAbality_MessageCompose put a empty Param\n"));
+  EXPECT_EQ(SystemControl_GetSysAbality_MessageCompose(&record, 1, body, 16), 0);
+  EXPECT_STREQ(body, "<RESPONSE_PARAM");
+}
+
+}  // namespace
+}  // namespace kov::test

@@ -1,0 +1,170 @@
+// Logs and debug text.
+#include "kov_protocol/system_log.h"
+
+#include <cstring>
+
+#include "every_message.h"
+#include "wire.h"
+
+namespace kov::test {
+namespace {
+
+using Log = SYSTEM_LOG_PARAM;
+
+const std::string kLog = SYSTEM_LOG_MESSAGE_TYPE;
+const std::string kDebug = DBG_CMD_MESSAGE_TYPE;
+
+// A record full of text is refused, which is no trial.
+void fillText(void* record, unsigned char value) { std::memset(record, value, 100); }
+
+const AlsoTested kMessages[] = {AlsoTested({kLog, "1", kRecordType<Log>}),
+                                AlsoTested({SYSTEM_LOG_DATA_TYPE, "1", kRecordType<Log>}),
+                                AlsoTested({kDebug, "1", kRecordType<DBG_CMD_PARAM>, fillText})};
+const NoRoundTrip kTextGrows(kDebug, "1", "the line breaks around the body come back as part of the text");
+
+class SystemLogTest : public WireTest {};
+
+// What the length field of the frame counts behind the document.
+std::uint32_t countedBehind(const Log& record, int direction) {
+  const KOV_PROTOCOL_HEADER header = headerOf(kLog, "1");
+  char out[8192];
+  const int length = KovProtocolXMLCompose(&header, &record, direction, KOV_PLAIN, nullptr, out, sizeof out);
+  std::uint32_t field = 0;
+  std::memcpy(&field, out + 4, sizeof field);
+  return field - static_cast<std::uint32_t>(length - KOV_FRAME_HEADER_SIZE);
+}
+
+TEST_F(SystemLogTest, RequestNamesAFileOrACommand) {
+  Log record;
+  EXPECT_EQ(bodyOf(kLog, "1", 0, &record), "");
+  set(record.Cmd, "ls");
+  EXPECT_EQ(bodyOf(kLog, "1", 2, &record), "<cmd>ls</cmd>");
+  EXPECT_EQ(countedBehind(record, 2), 0U);
+  set(record.Filename, "f.log");
+  record.DataLen = 1000;
+  const std::string body = "<POS \nFilename=\"f.log\"\nXmlLen=\"-1\"\nStartPos=\"-1\"\nDataLen=\"1000\"\n/>\n";
+  EXPECT_EQ(bodyOf(SYSTEM_LOG_DATA_TYPE, "1", 0, &record), body);
+  EXPECT_EQ(countedBehind(record, 0), 1004U);
+  record.DataLen = -1;
+  EXPECT_EQ(countedBehind(record, 0), 3U);
+  EXPECT_STREQ(analysed<Log>(kLog, "1", "<cmd>ls</cmd>").Cmd, "ls");
+  EXPECT_STREQ(analysed<Log>(kLog, "1", body + "<cmd>ls</cmd>").Cmd, "");
+}
+
+TEST_F(SystemLogTest, ResponseTextComesBackAsData) {
+  Log record;
+  std::memset(record.Data, 'd', sizeof record.Data);  // to the last byte, without a NUL
+  EXPECT_EQ(bodyOf(kLog, "1", 1, &record), std::string(40960, 'd'));
+  EXPECT_EQ(std::string(analysed<Log>(kLog, "1", std::string(50000, 'd')).Data), std::string(40959, 'd'));
+  set(record.RespStr, "done");
+  const std::string told = "<RESPONSE_PARAM>\nRespStr=\"done\"\n</RESPONSE_PARAM>\n";
+  EXPECT_EQ(bodyOf(kLog, "1", 3, &record), told);
+  EXPECT_EQ(countedBehind(record, 1), 0U);
+  EXPECT_STREQ(analysed<Log>(kLog, "1", told).Data, "RespStr=\"done\"");
+  set(record.Cmd, "out");
+  record.RespDataLen = 7;
+  const std::string counted = "<RESPONSE_PARAM>out</RESPONSE_PARAM>\n<RESPONSE_DATA_LEN>\n7\n</RESPONSE_DATA_LEN>\n";
+  EXPECT_EQ(bodyOf(kLog, "1", 9, &record), counted);
+  EXPECT_EQ(countedBehind(record, 1), 11U);
+  const auto read = analysed<Log>(kLog, "1", counted);
+  EXPECT_STREQ(read.Data, "out");
+  EXPECT_EQ(read.RespDataLen, 7);
+  EXPECT_EQ(analysed<Log>(kLog, "1", "<RESPONSE_PARAM/><RESPONSE_DATA_LEN/>").RespDataLen, -1);
+}
+
+// The data of a received message: a document that names `length` bytes, and `tail` behind it.
+std::string dataOf(const std::string& length, const std::string& tail) {
+  const Analysis analysis = analysePayload(received(kLog, "1", "<POS DataLen=\"" + length + "\"/>") + tail);
+  if (analysis.code != 0) return "code " + std::to_string(analysis.code);
+  const char* const data = static_cast<Log*>(analysis.result.get())->Data;
+  return {data, strnlen(data, sizeof Log::Data)};
+}
+
+TEST_F(SystemLogTest, RawDataIsTakenFromWhatWasReceived) {
+  const std::string separator(4, '\0');
+  EXPECT_EQ(dataOf("3", separator + "abcdef"), "abc");
+  EXPECT_EQ(dataOf("2147483647", separator + "abcdef"), "abcdef");
+  EXPECT_EQ(dataOf("50000", separator + std::string(50000, 'a')), std::string(40960, 'a'));
+  EXPECT_EQ(dataOf("3", std::string("\n\0\0\0abc", 7)), "abc");  // the first byte is where the text is cut
+  for (const char* none : {"0", "-1"}) EXPECT_EQ(dataOf(none, separator + "abcdef"), "");
+  for (std::size_t received = 0; received <= 4; ++received) EXPECT_EQ(dataOf("5", separator.substr(0, received)), "");
+  EXPECT_EQ(dataOf("6", std::string(3, '\0') + "abc"), "<?xml ");
+  EXPECT_EQ(dataOf("3000", "\n1"), received(kLog, "1", "<POS DataLen=\"3000\"/>"));
+}
+
+TEST_F(SystemLogTest, RawDataBehindATextOfUnknownLength) {
+  const std::string separator(4, '\0');
+  const std::string file = received(kLog, "1", "<POS DataLen=\"5\"/>");
+  for (const std::string& memory :
+       {file + separator + "abcdef", file + separator + "!", received(kLog, "1", "abcde")}) {
+    const std::unique_ptr<char[]> exact(new char[memory.size() + 1]);  // text alone is not read beyond its end
+    std::memcpy(exact.get(), memory.c_str(), memory.size() + 1);
+    if (memory.back() == '!') exact[file.size() + 3] = '!';
+    void* result = nullptr;
+    ASSERT_EQ(SystemLogMessageAnalysis(exact.get(), &result), 0);
+    EXPECT_STREQ(static_cast<Log*>(result)->Data, memory.back() == '!' ? "<?xml" : "abcde");
+    KovProtocolMSGAnalysisStop(&result);
+  }
+}
+
+TEST_F(SystemLogTest, RefusalsAreTold) {
+  EXPECT_EQ(analysisCode(kLog, "1", " <other/>\n"), KOV_ERROR_NO_ELEMENT);
+  EXPECT_EQ(failures(), std::vector<std::string>{"E SystemLogMessageAnalysis get LockParamInfo error\n"});
+  resetPlatform();
+  Log record;
+  record.RespDataLen = INT32_MAX;
+  char body[8] = "?";
+  int extraLen = -4;
+  EXPECT_EQ(SystemLogMessageCompose(&record, 0, nullptr, 8, &extraLen), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(SystemLogMessageCompose(&record, 0, body, 8, nullptr), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(SystemLogMessageCompose(nullptr, 0, body, 8, &extraLen), 0);
+  EXPECT_EQ(extraLen, -4);
+  EXPECT_EQ(SystemLogMessageCompose(&record, 1, body, 8, &extraLen), 0);
+  EXPECT_EQ(extraLen, INT32_MAX);
+  EXPECT_STREQ(body, "<RESPON");
+  void* result = nullptr;
+  EXPECT_EQ(SystemLogMessageAnalysis(nullptr, &result), KOV_ERROR_EMPTY_ARGUMENT);
+  const std::string empty = "E SYSTEM_LOG_PARAM put a empty Param\n";
+  EXPECT_EQ(logLines(), (std::vector<std::string>{empty, empty, "E SystemLogMessageAnalysis put a empty Param\n"}));
+}
+
+TEST_F(SystemLogTest, DebugTextTravelsAsItIs) {
+  EXPECT_EQ(bodyOf(kDebug, "1", 0, "a<b/>c"), "a<b/>c");
+  EXPECT_STREQ(analysed<DBG_CMD_PARAM>(kDebug, "1", "a<b/>c").Text, "\na<b/>c\n");
+  DBG_CMD_PARAM full;
+  std::memset(full.Text, 't', sizeof full.Text);
+  const std::string most(8189, 't');
+  EXPECT_EQ(std::string(analysed<DBG_CMD_PARAM>(kDebug, "1", most).Text), "\n" + most + "\n");
+  EXPECT_EQ(analysisCode(kDebug, "1", most + "t"), KOV_ERROR_SIZE);
+  EXPECT_EQ(failures(), std::vector<std::string>{"E Error: iBufLen(8192) small than len(8192)\n"});
+  EXPECT_EQ(documentOf(kDebug, "1", 0, &full), "code -1007");
+}
+
+TEST_F(SystemLogTest, DebugTextIsCutOutOfTheDocument) {
+  void* result = nullptr;
+  const char* const text = "<MESSAGE_BODY>text</MESSAGE_BODY>";
+  EXPECT_EQ(DebugLogMessageAnalysis("<MESSAGE_BODY>text", 99, &result), KOV_ERROR_BAD_DOCUMENT);
+  EXPECT_EQ(DebugLogMessageAnalysis("</MESSAGE_BODY><MESSAGE_BODY>", 99, &result), KOV_ERROR_BAD_DOCUMENT);
+  EXPECT_EQ(DebugLogMessageAnalysis(text, 3, &result), KOV_ERROR_SIZE);
+  EXPECT_EQ(DebugLogMessageAnalysis(text, -1, &result), KOV_ERROR_SIZE);
+  EXPECT_EQ(DebugLogMessageAnalysis(text, 9, nullptr), KOV_ERROR_EMPTY_ARGUMENT);
+  EXPECT_EQ(logLines(), (std::vector<std::string>{"E Error: iBufLen(3) small than len(4)\n",
+                                                  "E Error: iBufLen(0) small than len(4)\n",
+                                                  "E DebugLogMessageAnalysis put a empty Param\n"}));
+  EXPECT_EQ(result, nullptr);
+  EXPECT_EQ(DebugLogMessageAnalysis(text, 4, &result), 0);
+  EXPECT_STREQ(static_cast<DBG_CMD_PARAM*>(result)->Text, "text");
+  KovProtocolMSGAnalysisStop(&result);
+}
+
+TEST_F(SystemLogTest, DebugSwitchesAreAHeaderOnly) {
+  for (const char* type : {OPEN_DBG_MESSAGE_TYPE, CLOSE_DBG_MESSAGE_TYPE}) {
+    EXPECT_EQ(bodyOf(type, "1", 0, "text"), "");
+    const Analysis analysis = analysePayload(received(type, "1", "text"));
+    EXPECT_EQ(analysis.code, 0);
+    EXPECT_EQ(analysis.result, nullptr);
+  }
+}
+
+}  // namespace
+}  // namespace kov::test
