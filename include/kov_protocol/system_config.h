@@ -13,6 +13,7 @@
 #include "kov_protocol/system_config_alarm.h"
 #include "kov_protocol/system_config_analytics.h"
 #include "kov_protocol/system_config_channel.h"
+#include "kov_protocol/system_config_media.h"
 #include "kov_protocol/system_config_network.h"
 
 #ifdef __cplusplus

@@ -4,6 +4,7 @@
 #include "config/alarm.h"
 #include "config/analytics.h"
 #include "config/channel.h"
+#include "config/media.h"
 #include "config/network.h"
 #include "control/system_control.h"
 #include "core/family.h"
@@ -22,8 +23,8 @@ constexpr CodeRow kSharedRows[] = {{1020, &kGetSysAbality}};
 constexpr CodeGroup kSharedWithControl = kSharedRows;
 
 constexpr const CodeGroup* kGroups[] = {
-    &kReservedCodes, &kSharedWithControl, &kNetworkCodes, &kChannelCodes, &kAlarmCodes,
-    &kRuleCodes,     &kAlgorithmCodes,    &kFaceCodes,    &kSceneCodes,
+    &kReservedCodes, &kSharedWithControl, &kNetworkCodes,   &kMediaCodes, &kChannelCodes,
+    &kAlarmCodes,    &kRuleCodes,         &kAlgorithmCodes, &kFaceCodes,  &kSceneCodes,
 };
 
 void logUnknown(const char*, int code) {

@@ -1,6 +1,7 @@
 // Operations and queries of a camera: time, identity, abilities, key frame, user data.
 #include "control/control_messages.h"
 #include "control/system_control.h"
+#include "core/exported.h"
 #include "kov_platform/services.h"
 
 namespace kov {
@@ -152,10 +153,8 @@ int SystemControl_GetSysAbality_MessageCompose(const SYSTEM_CONTROL_1020_PARAM* 
     KovProtocolLogInfo("SystemControl_GetSysAbality_MessageCompose put a empty Param\n");
     return KOV_ERROR_EMPTY_ARGUMENT;
   }
-  kov::BodyWriter writer(body, static_cast<std::size_t>(bodySize));
-  const int composed = kov::kGetSysAbality.compose(param, direction, writer);
-  if (!writer.empty()) writer.terminate();
-  return composed;
+  return kov::composeInto(
+      body, bodySize, [=](kov::BodyWriter& writer) { return kov::kGetSysAbality.compose(param, direction, writer); });
 }
 
 int SystemControl_SetRefleshCHBKG_MessageAnalysis(const char* xml, void** result) {

@@ -2,6 +2,7 @@
 #include "control/system_control.h"
 
 #include "control/control_messages.h"
+#include "core/exported.h"
 #include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
 
@@ -68,10 +69,8 @@ int SystemControlMessageCompose(const void* param, int direction, const char* ms
   if (!usable || kov::intOf(msgCode) != kov::kGetIpcStorageCfgCode) {
     return kov::kTable.compose(param, direction, msgCode, body, bodySize);
   }
-  kov::BodyWriter writer(body, static_cast<std::size_t>(bodySize));
-  const int composed = kov::composeStorageCfg(param, direction, writer);
-  if (!writer.empty()) writer.terminate();
-  return composed;
+  return kov::composeInto(body, bodySize,
+                          [=](kov::BodyWriter& writer) { return kov::composeStorageCfg(param, direction, writer); });
 }
 
 int SystemControlMessageAnalysis(const char* xml, const char* msgCode, void** result) {

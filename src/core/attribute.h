@@ -43,24 +43,28 @@ class NumberedName {
   std::size_t size_;  // the NUL included
 };
 
-// One attribute of an element, or one child element that holds a value as text. Forms list them in wire order.
+// One attribute of an element, or one child element that holds a value as text. Forms list them in wire order. It takes
+// three words, because every attribute of every message builds one.
 class Attribute {
  public:
   template <std::size_t Size>
-  constexpr Attribute(const char (&name)[Size], std::int32_t& field) : Attribute(name, Size, &field, Kind::Int32, 1) {}
+  constexpr Attribute(const char (&name)[Size], std::int32_t& field)
+      : Attribute(name, nameSize<Size>(), &field, Kind::Int32, 1) {}
   template <std::size_t Size>
   constexpr Attribute(const char (&name)[Size], std::uint32_t& field)
-      : Attribute(name, Size, &field, Kind::UInt32, 1) {}
+      : Attribute(name, nameSize<Size>(), &field, Kind::UInt32, 1) {}
   template <std::size_t Size>
-  constexpr Attribute(const char (&name)[Size], std::uint8_t& field) : Attribute(name, Size, &field, Kind::UInt8, 1) {}
+  constexpr Attribute(const char (&name)[Size], std::uint8_t& field)
+      : Attribute(name, nameSize<Size>(), &field, Kind::UInt8, 1) {}
   template <std::size_t Size>
   constexpr Attribute(const char (&name)[Size], std::uint64_t& field)
-      : Attribute(name, Size, &field, Kind::UInt64, 1) {}
+      : Attribute(name, nameSize<Size>(), &field, Kind::UInt64, 1) {}
   template <std::size_t Size>
-  constexpr Attribute(const char (&name)[Size], float& field) : Attribute(name, Size, &field, Kind::Float, 1) {}
+  constexpr Attribute(const char (&name)[Size], float& field)
+      : Attribute(name, nameSize<Size>(), &field, Kind::Float, 1) {}
   template <std::size_t Size, std::size_t Capacity>
   constexpr Attribute(const char (&name)[Size], char (&field)[Capacity])
-      : Attribute(name, Size, field, Kind::Text, Capacity) {
+      : Attribute(name, nameSize<Size>(), field, Kind::Text, Capacity) {
     static_assert(Capacity <= UINT16_MAX, "a text field longer than the engine counts");
   }
   Attribute(const NumberedName& name, std::int32_t& field)
@@ -72,18 +76,16 @@ class Attribute {
   // Ranges and sizes: "%d,%d" unless separated() says otherwise.
   template <std::size_t Size, std::size_t Count>
   constexpr Attribute(const char (&name)[Size], std::int32_t (&field)[Count])
-      : Attribute(name, Size, field, Kind::Int32List, Count) {}
+      : Attribute(name, nameSize<Size>(), field, Kind::Int32List, listOf(Count, ',', kUnpadded)) {
+    static_assert(Count <= kMostNumbers, "a list longer than the engine counts");
+  }
   // Times of day: "%02d:%02d:%02d" unless unpadded() says otherwise.
   template <std::size_t Size>
-  constexpr Attribute(const char (&name)[Size], KOV_TIME& field) : Attribute(name, Size, &field, Kind::Int32List, 3) {
-    separator_ = ':';
-    padding_ = '0';
-  }
+  constexpr Attribute(const char (&name)[Size], KOV_TIME& field)
+      : Attribute(name, nameSize<Size>(), &field, Kind::Int32List, listOf(3, ':', kZeros)) {}
   template <std::size_t Size>
-  constexpr Attribute(const char (&name)[Size], KOV_TIME8& field) : Attribute(name, Size, &field, Kind::UInt8List, 3) {
-    separator_ = ':';
-    padding_ = '0';
-  }
+  constexpr Attribute(const char (&name)[Size], KOV_TIME8& field)
+      : Attribute(name, nameSize<Size>(), &field, Kind::UInt8List, listOf(3, ':', kZeros)) {}
 
   // Written only when the field is set.
   constexpr Attribute ifSet() const { return with(kIfSet); }
@@ -99,18 +101,10 @@ class Attribute {
   // An int read as atoi does: present but no number is 0.
   constexpr Attribute orZero() const { return with(kOrZero); }
 
-  constexpr Attribute separated(char separator) const {
-    Attribute copy = *this;
-    copy.separator_ = separator;
-    return copy;
-  }
-  constexpr Attribute unpadded() const { return padded('\0'); }
-  // Numbers of a list padded to two places.
-  constexpr Attribute padded(char padding) const {
-    Attribute copy = *this;
-    copy.padding_ = padding;
-    return copy;
-  }
+  // Numbers of a list with another separator, without padding, or padded to two places.
+  constexpr Attribute separated(char separator) const { return relisted(separator, padding()); }
+  constexpr Attribute unpadded() const { return relisted(separator(), '\0'); }
+  constexpr Attribute padded(char padding) const { return relisted(separator(), padding); }
 
   // What follows the closing quote instead of a newline.
   constexpr Attribute thenBlank() const { return with(kThenBlank); }
@@ -121,43 +115,75 @@ class Attribute {
  private:
   friend class BodyIo;
 
-  enum Flag : std::uint16_t {
-    kIfSet = 1,
-    kSkipWriting = 2,
-    kSkipReading = 4,
-    kHexadecimal = 8,
-    kAsSigned = 16,
-    kOrZero = 32,
-    kThenBlank = 64,
-    kThenNothing = 128,
-    kBlankBeforeEquals = 256,
-    // What makes an attribute look other than Name="value" on a line of its own.
-    kLayout = kHexadecimal | kAsSigned | kThenBlank | kThenNothing | kBlankBeforeEquals
+  // The word of facts: 16 bits of count, 5 of the name's length, 3 of the kind, 8 of flags, two of which are a number.
+  static constexpr unsigned kNameShift = 16;
+  static constexpr unsigned kKindShift = 21;
+  static constexpr std::uint32_t kMostName = 31;
+  enum Flag : std::uint32_t {
+    kIfSet = 1U << 24,
+    kSkipWriting = 1U << 25,
+    kSkipReading = 1U << 26,
+    kHexadecimal = 1U << 27,
+    kAsSigned = 2U << 27,
+    kOrZero = 3U << 27,
+    kConversion = 3U << 27,
+    kThenBlank = 1U << 29,
+    kThenNothing = 1U << 30,
+    kBlankBeforeEquals = 1U << 31
   };
+
+  template <std::size_t Size>
+  static constexpr std::size_t nameSize() {
+    static_assert(Size - 1 <= kMostName, "a name longer than the engine counts");
+    return Size;
+  }
+
+  // For a list, the 16 bits of count hold 4 of count, 8 of the separator and 2 of the padding.
+  static constexpr std::uint32_t kMostNumbers = 15;
+  enum Padding : std::uint32_t { kUnpadded = 0, kZeros = 1, kBlanks = 2 };
+  static constexpr std::uint32_t listOf(std::size_t count, char separator, Padding padding) {
+    return static_cast<std::uint32_t>(count) |
+           (static_cast<std::uint32_t>(static_cast<unsigned char>(separator)) << 4) | (padding << 12);
+  }
 
   constexpr Attribute(const char* name, std::size_t nameSize, void* field, Kind kind, std::size_t count)
       : name_(name),
         field_(field),
-        count_(static_cast<std::uint16_t>(count)),
-        flags_(0),
-        nameLength_(static_cast<std::uint8_t>(nameSize - 1)),
-        kind_(kind) {}
+        facts_(static_cast<std::uint32_t>(count) |
+               ((static_cast<std::uint32_t>(nameSize - 1) & kMostName) << kNameShift) |
+               (static_cast<std::uint32_t>(kind) << kKindShift)) {}
 
   constexpr Attribute with(Flag flag) const {
     Attribute copy = *this;
-    copy.flags_ = static_cast<std::uint16_t>(copy.flags_ | flag);
+    copy.facts_ |= flag;
     return copy;
   }
-  constexpr bool has(Flag flag) const { return (flags_ & flag) != 0; }
+  constexpr Attribute relisted(char separator, char padding) const {
+    const Padding kept = padding == '\0' ? kUnpadded : padding == '0' ? kZeros : kBlanks;
+    Attribute copy = *this;
+    copy.facts_ = (facts_ & ~0xFFFFU) | listOf(numbers(), separator, kept);
+    return copy;
+  }
+
+  constexpr bool has(Flag flag) const { return (facts_ & flag) != 0; }
+  constexpr Flag conversion() const { return static_cast<Flag>(facts_ & kConversion); }
+  // Looks like Name="value" on a line of its own, as its kind alone says.
+  constexpr bool isPlain() const {
+    return (facts_ & (kConversion | kThenBlank | kThenNothing | kBlankBeforeEquals)) == 0;
+  }
+  constexpr Kind kind() const { return static_cast<Kind>((facts_ >> kKindShift) & 7); }
+  constexpr std::size_t nameLength() const { return (facts_ >> kNameShift) & kMostName; }
+  constexpr std::size_t capacity() const { return facts_ & 0xFFFF; }
+  constexpr std::size_t numbers() const { return facts_ & kMostNumbers; }
+  constexpr char separator() const { return static_cast<char>((facts_ >> 4) & 0xFF); }
+  constexpr char padding() const {
+    const std::uint32_t padding = (facts_ >> 12) & 3;
+    return padding == kUnpadded ? '\0' : padding == kZeros ? '0' : ' ';
+  }
 
   const char* name_;
   void* field_;
-  std::uint16_t count_;  // bytes of a text, numbers of a list
-  std::uint16_t flags_;
-  std::uint8_t nameLength_;
-  Kind kind_;
-  char separator_ = ',';
-  char padding_ = '\0';
+  std::uint32_t facts_;
 };
 
 // Spells an attribute that carries modifiers: attr("RecType", r.RecType).hex().ifSet()

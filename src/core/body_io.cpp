@@ -86,7 +86,7 @@ void BodyIo::texts(Attributes values) {
       open(value.name_, ">");
       writeValue(value);
       writer_->literal("</");
-      writer_->text(value.name_, value.nameLength_);
+      writer_->text(value.name_, value.nameLength());
       writer_->text(value.has(Attribute::kThenNothing) ? ">" : ">\n");
     }
   }
@@ -124,7 +124,7 @@ void BodyIo::open(const char* name, const char* end) {
 bool BodyIo::isWritten(const Attribute& attribute) {
   if (attribute.has(Attribute::kSkipWriting)) return false;
   if (!attribute.has(Attribute::kIfSet)) return true;
-  switch (attribute.kind_) {
+  switch (attribute.kind()) {
     case Kind::Text:
       return load<char>(attribute.field_) != '\0';
     case Kind::UInt8:
@@ -145,16 +145,16 @@ void BodyIo::write(Attributes attributes) {
 
 // Nearly all attributes are a text or a decimal int on a line of their own, and fit: one check of the room, no calls.
 bool BodyIo::writeCommon(const Attribute& attribute) {
-  const bool isText = attribute.kind_ == Kind::Text;
-  const bool isInt = attribute.kind_ == Kind::Int32;
-  if ((!isText && !isInt) || (attribute.flags_ & Attribute::kLayout) != 0) return false;
+  const bool isText = attribute.kind() == Kind::Text;
+  const bool isInt = attribute.kind() == Kind::Int32;
+  if ((!isText && !isInt) || !attribute.isPlain()) return false;
   const char* const text = static_cast<const char*>(attribute.field_);
-  const std::size_t length = isText ? boundedLength(text, attribute.count_) : BodyWriter::kMostDigits;
+  const std::size_t length = isText ? boundedLength(text, attribute.capacity()) : BodyWriter::kMostDigits;
   constexpr std::size_t kPunctuation = 4;
-  char* to = writer_->place(attribute.nameLength_ + length + kPunctuation);
+  char* to = writer_->place(attribute.nameLength() + length + kPunctuation);
   if (to == nullptr) return false;
-  copyShort(to, attribute.name_, attribute.nameLength_);
-  to += attribute.nameLength_;
+  copyShort(to, attribute.name_, attribute.nameLength());
+  to += attribute.nameLength();
   std::memcpy(to, "=\"", 2);
   to += 2;
   if (isText) {
@@ -169,7 +169,7 @@ bool BodyIo::writeCommon(const Attribute& attribute) {
 }
 
 void BodyIo::writeAny(const Attribute& attribute) {
-  writer_->text(attribute.name_, attribute.nameLength_);
+  writer_->text(attribute.name_, attribute.nameLength());
   if (attribute.has(Attribute::kBlankBeforeEquals)) writer_->character(' ');
   writer_->literal("=\"");
   writeValue(attribute);
@@ -182,9 +182,9 @@ void BodyIo::writeAny(const Attribute& attribute) {
 
 void BodyIo::writeValue(const Attribute& attribute) {
   const void* field = attribute.field_;
-  switch (attribute.kind_) {
+  switch (attribute.kind()) {
     case Kind::Int32:
-      if (!attribute.has(Attribute::kHexadecimal)) {
+      if (attribute.conversion() != Attribute::kHexadecimal) {
         writer_->decimal(load<std::int32_t>(field));
         break;
       }
@@ -203,7 +203,7 @@ void BodyIo::writeValue(const Attribute& attribute) {
       break;
     case Kind::Text: {
       const char* text = static_cast<const char*>(field);
-      writer_->text(text, boundedLength(text, attribute.count_));
+      writer_->text(text, boundedLength(text, attribute.capacity()));
       break;
     }
     case Kind::Int32List:
@@ -214,9 +214,9 @@ void BodyIo::writeValue(const Attribute& attribute) {
 }
 
 void BodyIo::writeUnsigned(const Attribute& attribute, std::uint64_t value, std::int64_t asSigned) {
-  if (attribute.has(Attribute::kHexadecimal)) {
+  if (attribute.conversion() == Attribute::kHexadecimal) {
     writer_->hexadecimal(value);
-  } else if (attribute.has(Attribute::kAsSigned)) {
+  } else if (attribute.conversion() == Attribute::kAsSigned) {
     writer_->decimal(asSigned);
   } else {
     writer_->unsignedDecimal(value);
@@ -224,12 +224,12 @@ void BodyIo::writeUnsigned(const Attribute& attribute, std::uint64_t value, std:
 }
 
 void BodyIo::writeList(const Attribute& attribute) {
-  const unsigned width = attribute.padding_ == '\0' ? 1 : 2;
-  for (std::size_t i = 0; i < attribute.count_; ++i) {
-    const std::int32_t number = attribute.kind_ == Kind::UInt8List ? load<std::uint8_t>(attribute.field_, i)
-                                                                   : load<std::int32_t>(attribute.field_, i);
-    if (i > 0) writer_->character(attribute.separator_);
-    writer_->padded(number, width, attribute.padding_);
+  const unsigned width = attribute.padding() == '\0' ? 1 : 2;
+  for (std::size_t i = 0; i < attribute.numbers(); ++i) {
+    const std::int32_t number = attribute.kind() == Kind::UInt8List ? load<std::uint8_t>(attribute.field_, i)
+                                                                    : load<std::int32_t>(attribute.field_, i);
+    if (i > 0) writer_->character(attribute.separator());
+    writer_->padded(number, width, attribute.padding());
   }
 }
 
@@ -247,7 +247,7 @@ void BodyIo::readAttribute(const ElementReader& element, const Attribute& attrib
   }
   void* const field = attribute.field_;
   const KovXMLParser& document = element.document();
-  switch (attribute.kind_) {
+  switch (attribute.kind()) {
     case Kind::Int32:
       getXmlIntTypeParamAttribute(document, element.handle(), attribute.name_, static_cast<int*>(field));
       break;
@@ -269,7 +269,7 @@ void BodyIo::readAttribute(const ElementReader& element, const Attribute& attrib
       break;
     case Kind::Text:
       getXmlStringTypeParamAttribute(document, element.handle(), attribute.name_, static_cast<char*>(field),
-                                     attribute.count_);
+                                     static_cast<int>(attribute.capacity()));
       break;
     default:
       break;
@@ -278,15 +278,15 @@ void BodyIo::readAttribute(const ElementReader& element, const Attribute& attrib
 
 // The typed readers know decimal numbers and texts; the rest is read from the raw text.
 bool BodyIo::readRawly(const Attribute& attribute) {
-  return attribute.kind_ == Kind::Int32List || attribute.kind_ == Kind::UInt8List ||
-         attribute.has(Attribute::kHexadecimal) || attribute.has(Attribute::kOrZero);
+  return attribute.kind() == Kind::Int32List || attribute.kind() == Kind::UInt8List ||
+         attribute.conversion() == Attribute::kHexadecimal || attribute.conversion() == Attribute::kOrZero;
 }
 
 void BodyIo::readRaw(const char* raw, const Attribute& attribute) {
   if (raw == nullptr) return;
-  if (attribute.has(Attribute::kOrZero)) {
+  if (attribute.conversion() == Attribute::kOrZero) {
     store(attribute.field_, intOf(raw));
-  } else if (attribute.has(Attribute::kHexadecimal)) {
+  } else if (attribute.conversion() == Attribute::kHexadecimal) {
     readHexadecimal(raw, attribute);
   } else {
     readList(raw, attribute);
@@ -297,7 +297,7 @@ void BodyIo::readHexadecimal(const char* raw, const Attribute& attribute) {
   bool negative = false;
   std::uint64_t magnitude = 0;
   if (!scanHexadecimal(raw, negative, magnitude)) return;
-  if (attribute.kind_ == Kind::UInt64) {
+  if (attribute.kind() == Kind::UInt64) {
     store(attribute.field_, withSign(negative, magnitude));
   } else {
     const std::uint64_t limited = std::min<std::uint64_t>(magnitude, UINT32_MAX);
@@ -307,11 +307,11 @@ void BodyIo::readHexadecimal(const char* raw, const Attribute& attribute) {
 
 // Numbers up to the first that is missing; those behind it keep their defaults.
 void BodyIo::readList(const char* raw, const Attribute& attribute) {
-  for (std::size_t i = 0; i < attribute.count_; ++i) {
+  for (std::size_t i = 0; i < attribute.numbers(); ++i) {
     std::int32_t number = 0;
-    if (i > 0 && *raw++ != attribute.separator_) return;
+    if (i > 0 && *raw++ != attribute.separator()) return;
     if (!scanInt(raw, number)) return;
-    if (attribute.kind_ == Kind::Int32List) {
+    if (attribute.kind() == Kind::Int32List) {
       store(attribute.field_, number, i);
     } else if (number >= 0 && number <= UINT8_MAX) {
       store(attribute.field_, static_cast<std::uint8_t>(number), i);
@@ -321,10 +321,10 @@ void BodyIo::readList(const char* raw, const Attribute& attribute) {
 
 void BodyIo::readText(const ElementReader& element, const Attribute& value) {
   if (!element || value.has(Attribute::kSkipReading)) return;
-  if (value.kind_ == Kind::Text) {
+  if (value.kind() == Kind::Text) {
     getXmlStringTypeParamByGetText(element.document(), element.handle(), static_cast<char*>(value.field_),
-                                   value.count_);
-  } else if (value.kind_ == Kind::Int32 && !value.has(Attribute::kOrZero)) {
+                                   static_cast<int>(value.capacity()));
+  } else if (value.kind() == Kind::Int32 && value.conversion() != Attribute::kOrZero) {
     getXmlIntTypeParamByGetText(element.document(), element.handle(), static_cast<int*>(value.field_));
   } else {
     readNumber(element.text(), value);
@@ -339,7 +339,7 @@ void BodyIo::readNumber(const char* raw, const Attribute& value) {
   }
   bool negative = false;
   std::uint64_t magnitude = 0;
-  if (value.kind_ == Kind::UInt32 && scanDecimal(raw, negative, magnitude)) {
+  if (value.kind() == Kind::UInt32 && scanDecimal(raw, negative, magnitude)) {
     const std::uint64_t limited = std::min<std::uint64_t>(magnitude, UINT32_MAX);
     store(value.field_, static_cast<std::uint32_t>(withSign(negative, limited)));
   }

@@ -1,5 +1,6 @@
 #include "core/family.h"
 
+#include "core/exported.h"
 #include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
 
@@ -53,15 +54,8 @@ int CodeTable::analyse(const KovXMLParser& document, const char* msgCode, void**
 }
 
 int CodeTable::compose(const void* param, int direction, const char* msgCode, char* body, int bodySize) const {
-  if (body == nullptr || bodySize < 1 || msgCode == nullptr) {
-    KovProtocolLogError("%s put a empty Param\n", name_);
-    return KOV_ERROR_EMPTY_ARGUMENT;
-  }
-  if (param == nullptr) return KOV_OK;
-  BodyWriter writer(body, static_cast<std::size_t>(bodySize));
-  const int composed = compose(param, direction, msgCode, writer);
-  if (!writer.empty()) writer.terminate();
-  return composed;
+  return composeExported(name_, param, body, bodySize, msgCode,
+                         [&](BodyWriter& writer) { return compose(param, direction, msgCode, writer); });
 }
 
 int CodeTable::analyse(const char* xml, const char* msgCode, void** result) const {

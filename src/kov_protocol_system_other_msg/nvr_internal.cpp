@@ -1,6 +1,7 @@
 // NVR_INTERNAL_MESSAGES: recorders and cameras lock stream configurations and ask each other for channels.
 #include "kov_protocol/nvr_internal.h"
 
+#include "core/exported.h"
 #include "core/family.h"
 #include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
@@ -169,15 +170,8 @@ int NVR_INTERNAL_4001_PARAM_init(NVR_INTERNAL_4001_PARAM* record) { return kov::
 int NVR_INTERNAL_4002_PARAM_init(NVR_INTERNAL_4002_PARAM* record) { return kov::fillDefaults(record); }
 
 int NvrInternalMessageCompose(const void* param, int direction, const char* msgCode, char* body, int bodySize) {
-  if (body == nullptr || bodySize < 1 || msgCode == nullptr) {
-    KovProtocolLogError("NVR_INTERNAL_MESSAGES put a empty Param\n");
-    return KOV_ERROR_EMPTY_ARGUMENT;
-  }
-  if (param == nullptr) return KOV_OK;
-  kov::BodyWriter writer(body, static_cast<std::size_t>(bodySize));
-  const int composed = kov::compose(param, direction, msgCode, writer);
-  if (!writer.empty()) writer.terminate();
-  return composed;
+  return kov::composeExported("NVR_INTERNAL_MESSAGES", param, body, bodySize, msgCode,
+                              [=](kov::BodyWriter& writer) { return kov::compose(param, direction, msgCode, writer); });
 }
 
 int NvrInternalMessageAnalysis(const char* xml, const char* msgCode, void** result) {

@@ -1,6 +1,7 @@
 // LIVE_STREAM_MESSAGE: start, stop and quality of a live stream.
 #include "kov_protocol/live_stream.h"
 
+#include "core/exported.h"
 #include "core/family.h"
 #include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
@@ -187,10 +188,8 @@ int LiveStreamMessageCompose(const void* param, int direction, const char* msgCo
                              static_cast<std::size_t>(headerExtrasLen));
     kov::composeExtras(message, param, direction, extras);
   }
-  kov::BodyWriter writer(body, static_cast<std::size_t>(bodySize));
-  const int composed = message->compose(param, direction, writer);
-  if (!writer.empty()) writer.terminate();
-  return composed;
+  return kov::composeInto(body, bodySize,
+                          [=](kov::BodyWriter& writer) { return message->compose(param, direction, writer); });
 }
 
 int LiveStreamMessageAnalysis(const char* xml, const char* msgCode, void** result) {

@@ -1,6 +1,7 @@
 // REVERSE_AUDIO_MESSAGE: talk-back from a client to a device.
 #include "kov_protocol/reverse_audio.h"
 
+#include "core/exported.h"
 #include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
 #include "live/reverse_audio.h"
@@ -99,15 +100,8 @@ int REVERSE_AUDIO_CMD_RA_START_PARAM_init(REVERSE_AUDIO_CMD_RA_START_PARAM* reco
 int REVERSE_AUDIO_CMD_RA_STOP_PARAM_init(REVERSE_AUDIO_CMD_RA_STOP_PARAM* record) { return kov::fillDefaults(record); }
 
 int ReverseAudioMessageCompose(const void* param, int direction, const char* msgCode, char* body, int bodySize) {
-  if (body == nullptr || bodySize < 1 || msgCode == nullptr) {
-    KovProtocolLogError("REVERSE_AUDIO_MESSAGE put a empty Param\n");
-    return KOV_ERROR_EMPTY_ARGUMENT;
-  }
-  if (param == nullptr) return KOV_OK;
-  kov::BodyWriter writer(body, static_cast<std::size_t>(bodySize));
-  const int composed = kov::compose(param, direction, msgCode, writer);
-  if (!writer.empty()) writer.terminate();
-  return composed;
+  return kov::composeExported("REVERSE_AUDIO_MESSAGE", param, body, bodySize, msgCode,
+                              [=](kov::BodyWriter& writer) { return kov::compose(param, direction, msgCode, writer); });
 }
 
 int ReverseAudioMessageAnalysis(const char* xml, const char* msgCode, void** result) {

@@ -1,6 +1,7 @@
 // PTZ_CONTROL_MESSAGE: the sub-commands, and how compose and analysis choose among them.
 #include "ptz/ptz_control.h"
 
+#include "core/exported.h"
 #include "kov_platform/services.h"
 #include "ptz/sub_command.h"
 
@@ -142,15 +143,9 @@ constexpr Family kPtzControl = {nullptr, composeFromEntry, analyseFromEntry};
 }  // namespace kov
 
 int PtzControlMessageCompose(const void* param, int direction, char* body, int bodySize) {
-  if (body == nullptr || bodySize < 1) {
-    KovProtocolLogError("PTZ_CONTROL_MESSAGE put a empty Param\n");
-    return KOV_ERROR_EMPTY_ARGUMENT;
-  }
-  if (param == nullptr) return KOV_OK;
-  kov::BodyWriter writer(body, static_cast<std::size_t>(bodySize));
-  const int composed = kov::composeCommand(*static_cast<const PTZ_CONTROL_PTZ_CMD_PARAM*>(param), direction, writer);
-  if (!writer.empty()) writer.terminate();
-  return composed;
+  return kov::composeExported("PTZ_CONTROL_MESSAGE", param, body, bodySize, body, [=](kov::BodyWriter& writer) {
+    return kov::composeCommand(*static_cast<const PTZ_CONTROL_PTZ_CMD_PARAM*>(param), direction, writer);
+  });
 }
 
 int PtzControlMessageAnalysis(const char* xml, void** result) {

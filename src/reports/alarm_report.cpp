@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/exported.h"
 #include "core/family.h"
 #include "kov_platform/services.h"
 #include "reports/alarm_report.h"
@@ -218,15 +219,9 @@ int ALARM_REPORT_CMD_RPEORT_ALARM_PARAM_init(ALARM_REPORT_CMD_RPEORT_ALARM_PARAM
 }
 
 int AlarmReportMessageCompose(const void* param, int direction, char* out, int outSize, uint32_t* extraLength) {
-  if (out == nullptr || outSize < 1 || extraLength == nullptr) {
-    KovProtocolLogError("ALARM_REPORT_MESSAGE put a empty Param\n");
-    return KOV_ERROR_EMPTY_ARGUMENT;
-  }
-  if (param == nullptr) return KOV_OK;
-  kov::BodyWriter writer(out, static_cast<std::size_t>(outSize));
-  const int composed = kov::compose(param, direction, writer, *extraLength);
-  if (!writer.empty()) writer.terminate();
-  return composed;
+  return kov::composeExported("ALARM_REPORT_MESSAGE", param, out, outSize, extraLength, [=](kov::BodyWriter& writer) {
+    return kov::compose(param, direction, writer, *extraLength);
+  });
 }
 
 int AlarmReportMessageAnalysis(const char* xml, void** result) {

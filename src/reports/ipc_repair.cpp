@@ -1,6 +1,7 @@
 // IPC_REPAIR_MESSAGE: a camera asks a server where to fetch its firmware or its algorithm from.
 #include "kov_protocol/ipc_repair.h"
 
+#include "core/exported.h"
 #include "core/family.h"
 #include "kov_platform/services.h"
 #include "reports/ipc_repair.h"
@@ -88,15 +89,8 @@ constexpr Family kIpcRepair = {nullptr, composeCall, analyseCall};
 int IPC_REPAIR_PARAM_init(IPC_REPAIR_PARAM* record) { return kov::fillDefaults(record); }
 
 int IpcRepairMessageCompose(const void* param, int direction, char* body, int bodySize) {
-  if (body == nullptr || bodySize < 1) {
-    KovProtocolLogError("IPC_REPAIR_MESSAGE put a empty Param\n");
-    return KOV_ERROR_EMPTY_ARGUMENT;
-  }
-  if (param == nullptr) return KOV_OK;
-  kov::BodyWriter writer(body, static_cast<std::size_t>(bodySize));
-  const int composed = kov::compose(param, direction, writer);
-  writer.terminate();
-  return composed;
+  return kov::composeExported("IPC_REPAIR_MESSAGE", param, body, bodySize, body,
+                              [=](kov::BodyWriter& writer) { return kov::compose(param, direction, writer); });
 }
 
 int IpcRepairMessageAnalysis(const char* xml, void** result) {

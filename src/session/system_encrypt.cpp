@@ -1,8 +1,9 @@
 // SYSTEM_ENCRYPT_MESSAGE: the key of a session.
 #include "kov_protocol/system_encrypt.h"
 
+#include "core/exported.h"
+#include "core/message.h"
 #include "kov_platform/services.h"
-#include "session/single_message.h"
 #include "session/system_encrypt.h"
 
 namespace kov {
@@ -29,7 +30,9 @@ constexpr Family kSystemEncrypt = {nullptr, compose, analyse};
 int SYSTEM_ENCRYPT_150_PARAM_init(SYSTEM_ENCRYPT_150_PARAM* record) { return kov::fillDefaults(record); }
 
 int SystemEncryptMessageCompose(const SYSTEM_ENCRYPT_150_PARAM* param, int direction, char* body, int bodySize) {
-  return kov::composeSingle("SYSTEM_ENCRYPT_MESSAGE", kov::kKeyConfig, param, direction, body, bodySize);
+  return kov::composeExported("SYSTEM_ENCRYPT_MESSAGE", param, body, bodySize, body, [=](kov::BodyWriter& writer) {
+    return kov::kKeyConfig.compose(param, direction, writer);
+  });
 }
 
 int SystemEncryptMessageAnalysis(const char* xml, void** result) {

@@ -3,9 +3,10 @@
 
 #include <algorithm>
 
+#include "core/exported.h"
+#include "core/message.h"
 #include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
-#include "session/single_message.h"
 #include "session/system_log.h"
 
 namespace kov {
@@ -143,11 +144,10 @@ constexpr Family kSystemLog = {nullptr, composeEntry, analyseEntry};
 int SYSTEM_LOG_PARAM_init(SYSTEM_LOG_PARAM* record) { return kov::fillDefaults(record); }
 
 int SystemLogMessageCompose(const SYSTEM_LOG_PARAM* param, int direction, char* body, int bodySize, int* extraLen) {
-  if (extraLen == nullptr) body = nullptr;  // one line tells both
-  const int composed = kov::composeSingle("SYSTEM_LOG_PARAM", kov::kLog, param, direction, body, bodySize);
-  if (composed != KOV_OK || param == nullptr) return composed;
-  *extraLen = static_cast<int>(static_cast<std::uint32_t>(*extraLen) + kov::bytesBehind(*param, direction));
-  return KOV_OK;
+  return kov::composeExported("SYSTEM_LOG_PARAM", param, body, bodySize, extraLen, [=](kov::BodyWriter& writer) {
+    *extraLen = static_cast<int>(static_cast<std::uint32_t>(*extraLen) + kov::bytesBehind(*param, direction));
+    return kov::kLog.compose(param, direction, writer);
+  });
 }
 
 int SystemLogMessageAnalysis(const char* xml, void** result) {

@@ -1,8 +1,9 @@
 // USER_AUTH_MESSAGE: a login and its answer.
 #include "kov_protocol/user_auth.h"
 
+#include "core/exported.h"
+#include "core/message.h"
 #include "kov_platform/services.h"
-#include "session/single_message.h"
 #include "session/user_auth.h"
 
 namespace kov {
@@ -75,7 +76,8 @@ constexpr Family kUserAuth = {nullptr, composeEntry, analyseEntry};
 int USER_AUTH_CMD_USER_AUTH_PARAM_init(USER_AUTH_CMD_USER_AUTH_PARAM* record) { return kov::fillDefaults(record); }
 
 int UserAuthMessageCompose(const USER_AUTH_CMD_USER_AUTH_PARAM* param, int direction, char* body, int bodySize) {
-  return kov::composeSingle("USER_AUTH_MESSAGE", kov::kLogin, param, direction, body, bodySize);
+  return kov::composeExported("USER_AUTH_MESSAGE", param, body, bodySize, body,
+                              [=](kov::BodyWriter& writer) { return kov::kLogin.compose(param, direction, writer); });
 }
 
 int UserAuthMessageAnalysis(const char* xml, void** result) {
