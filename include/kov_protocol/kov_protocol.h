@@ -20,9 +20,11 @@
 /* A field's default, beside the field: an initialiser in C++; in C the record's _init function sets it. */
 #ifdef __cplusplus
 #define KOV_DEFAULT(value) = value
+#define KOV_DEFAULTS(...) = {__VA_ARGS__}
 #define KOV_EMPTY = {}
 #else
 #define KOV_DEFAULT(value)
+#define KOV_DEFAULTS(...)
 #define KOV_EMPTY
 #endif
 

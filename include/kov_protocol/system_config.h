@@ -10,6 +10,8 @@
 #define KOV_PROTOCOL_SYSTEM_CONFIG_H
 
 #include "kov_protocol/kov_protocol.h"
+#include "kov_protocol/system_config_alarm.h"
+#include "kov_protocol/system_config_analytics.h"
 #include "kov_protocol/system_config_channel.h"
 #include "kov_protocol/system_config_general.h"
 #include "kov_protocol/system_config_media.h"

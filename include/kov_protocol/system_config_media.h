@@ -13,13 +13,6 @@
 
 #include "kov_protocol/kov_protocol.h"
 
-/* Defaults of the entries of an array. */
-#ifdef __cplusplus
-#define KOV_DEFAULTS(...) = {__VA_ARGS__}
-#else
-#define KOV_DEFAULTS(...)
-#endif
-
 #ifdef __cplusplus
 extern "C" {
 #endif

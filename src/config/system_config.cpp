@@ -1,6 +1,8 @@
 // SYSTEM_CONFIG_GET_MESSAGE and SYSTEM_CONFIG_SET_MESSAGE: one table of codes, whose rows stand beside their messages.
 #include "config/system_config.h"
 
+#include "config/alarm.h"
+#include "config/analytics.h"
 #include "config/channel.h"
 #include "config/general.h"
 #include "config/media.h"
@@ -23,8 +25,8 @@ constexpr CodeRow kSharedRows[] = {{1020, &kGetSysAbality}};
 constexpr CodeGroup kSharedWithControl = kSharedRows;
 
 constexpr const CodeGroup* kGroups[] = {
-    &kReservedCodes, &kSharedWithControl, &kNetworkCodes,         &kMediaCodes,
-    &kChannelCodes,  &kGeneralCodes,      &kRecorderSettingCodes,
+    &kReservedCodes, &kSharedWithControl, &kNetworkCodes, &kMediaCodes, &kAlarmCodes,   &kChannelCodes,
+    &kRuleCodes,     &kAlgorithmCodes,    &kFaceCodes,    &kSceneCodes, &kGeneralCodes, &kRecorderSettingCodes,
 };
 
 void logUnknown(const char*, int code) {

@@ -1,0 +1,97 @@
+#include "config/list_text.h"
+
+#include <cstring>
+
+#include "kov_platform/number_text.h"
+
+namespace kov {
+namespace {
+
+constexpr std::size_t kMostNumbers = 6;
+constexpr std::size_t kCutSize = 256;
+
+static_assert(sizeof(SYSTEM_CONFIG_PERIOD) == kMostNumbers * sizeof(std::int32_t), "a period is six numbers");
+static_assert(sizeof(SYSTEM_CONFIG_POINT) == 2 * sizeof(std::int32_t), "a point is two numbers");
+
+std::size_t sizeOf(const EntryShape& shape) { return shape.numbers * sizeof(std::int32_t); }
+
+void writeEntry(BodyWriter& text, const EntryShape& shape, const char* entry) {
+  std::int32_t numbers[kMostNumbers];
+  std::memcpy(numbers, entry, sizeOf(shape));
+  text.character('[');
+  for (std::size_t i = 0; i < shape.numbers; ++i) {
+    text.padded(numbers[i], shape.width, '0');
+    text.character(shape.behind[i]);
+  }
+  text.character(',');
+}
+
+void writeEntries(BodyWriter& text, const EntryShape& shape, const ListTable& table) {
+  const char* entry = static_cast<const char*>(table.entries);
+  for (std::int32_t i = 0; i < table.count && i < table.capacity; ++i, entry += sizeOf(shape)) {
+    writeEntry(text, shape, entry);
+  }
+}
+
+// Reads an entry behind its opening bracket. One that was cut, or is none, changes nothing.
+bool readEntry(const char* text, const EntryShape& shape, char* entry) {
+  std::int32_t numbers[kMostNumbers];
+  for (std::size_t i = 0; i < shape.numbers; ++i) {
+    if (!scanInt(text, numbers[i]) || *text != shape.behind[i]) return false;
+    ++text;
+  }
+  std::memcpy(entry, numbers, sizeOf(shape));
+  return true;
+}
+
+// Goes from bracket to bracket, so that it moves on whatever stands behind one.
+void readEntries(const char* text, const EntryShape& shape, const ListTable& table) {
+  char* entry = static_cast<char*>(table.entries);
+  for (std::int32_t room = table.capacity; room > 0 && (text = std::strchr(text, '[')) != nullptr;) {
+    ++text;
+    if (!readEntry(text, shape, entry)) continue;
+    entry += sizeOf(shape);
+    --room;
+  }
+}
+
+void writeCut(BodyWriter& body, const EntryShape& shape, const ListTable& table) {
+  char buffer[kCutSize];
+  BodyWriter text(buffer, sizeof buffer);
+  writeEntries(text, shape, table);
+  body.text(buffer, text.written());
+}
+
+}  // namespace
+
+constexpr EntryShape kPeriodEntry = {"::-::]", 6, 2};
+constexpr EntryShape kPointEntry = {",]", 2, 1};
+
+void listAttribute(BodyIo& io, const char* name, const EntryShape& shape, const ListTable& table, ListText built) {
+  if (io.reading()) {
+    const char* const text = io.reader().attribute(name);
+    if (text != nullptr) readEntries(text, shape, table);
+    return;
+  }
+  BodyWriter& body = io.writer();
+  body.text(name);
+  body.literal("=\"");
+  if (built == ListText::Cut) {
+    writeCut(body, shape, table);
+  } else {
+    writeEntries(body, shape, table);
+  }
+  body.literal("\"\n");
+}
+
+void drawingAttributes(BodyIo& io, SYSTEM_CONFIG_DRAWING& r) {
+  io.attributes({{"ShowAlarmCount", r.ShowAlarmCount},
+                 {"ShowAlarmLine", r.ShowAlarmLine},
+                 attr("VideoResolution", r.VideoResolution).separated('*'),
+                 {"MaxCoordinateCapability", r.MaxCoordinateCapability},
+                 {"LineCoordinatesNum", r.LineCoordinatesNum}});
+  const ListTable points = {r.LineCoordinates, SYSTEM_CONFIG_POINTS, r.LineCoordinatesNum};
+  listAttribute(io, "LineCoordinates", kPointEntry, points, ListText::Cut);
+}
+
+}  // namespace kov
