@@ -56,9 +56,7 @@ TEST(BodyWriterTest, NumbersReadAsPrintfWritesThem) {
 TEST(BodyWriterTest, FloatsReadAsPrintfWritesThem) {
   const auto check = [](float value) {
     char buffer[100];
-    BodyWriter writer(buffer, sizeof buffer);
-    writer.fixed(value);
-    writer.terminate();
+    *BodyWriter::putFixed(buffer, value) = '\0';
     EXPECT_EQ(std::string(buffer), formatted("%f", static_cast<double>(value)));
   };
   for (const float value : {0.0F,        -0.0F,       1.0F,    -1.0F,      0.5F,        0.1F,     97.25F,    1e-6F,

@@ -18,12 +18,15 @@ std::size_t sizeOf(const EntryShape& shape) { return shape.numbers * sizeof(std:
 void writeEntry(BodyWriter& text, const EntryShape& shape, const char* entry) {
   std::int32_t numbers[kMostNumbers];
   std::memcpy(numbers, entry, sizeOf(shape));
-  text.character('[');
+  char written[kMostNumbers * (BodyWriter::kMostPadded + 1) + 2];
+  char* to = written;
+  *to++ = '[';
   for (std::size_t i = 0; i < shape.numbers; ++i) {
-    text.padded(numbers[i], shape.width, '0');
-    text.character(shape.behind[i]);
+    to = BodyWriter::putPadded(to, numbers[i], shape.width, '0');
+    *to++ = shape.behind[i];
   }
-  text.character(',');
+  *to++ = ',';
+  text.text(written, static_cast<std::size_t>(to - written));
 }
 
 void writeEntries(BodyWriter& text, const EntryShape& shape, const ListTable& table) {

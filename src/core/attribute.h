@@ -167,10 +167,6 @@ class Attribute {
 
   constexpr bool has(Flag flag) const { return (facts_ & flag) != 0; }
   constexpr Flag conversion() const { return static_cast<Flag>(facts_ & kConversion); }
-  // Looks like Name="value" on a line of its own, as its kind alone says.
-  constexpr bool isPlain() const {
-    return (facts_ & (kConversion | kThenBlank | kThenNothing | kBlankBeforeEquals)) == 0;
-  }
   constexpr Kind kind() const { return static_cast<Kind>((facts_ >> kKindShift) & 7); }
   constexpr std::size_t nameLength() const { return (facts_ >> kNameShift) & kMostName; }
   constexpr std::size_t capacity() const { return facts_ & 0xFFFF; }

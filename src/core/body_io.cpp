@@ -84,7 +84,7 @@ void BodyIo::texts(Attributes values) {
       readText(find(value.name_), value);
     } else if (isWritten(value)) {
       open(value.name_, ">");
-      writeValue(value);
+      writeValue(value, mostOf(value));
       writer_->literal("</");
       writer_->text(value.name_, value.nameLength());
       writer_->text(value.has(Attribute::kThenNothing) ? ">" : ">\n");
@@ -137,100 +137,109 @@ bool BodyIo::isWritten(const Attribute& attribute) {
   }
 }
 
+// Name="value" and what ends it, straight into the buffer wherever all of it fits.
 void BodyIo::write(Attributes attributes) {
+  constexpr std::size_t kMostPunctuation = 5;
   for (const Attribute& attribute : attributes) {
-    if (isWritten(attribute) && !writeCommon(attribute)) writeAny(attribute);
+    if (!isWritten(attribute)) continue;
+    const std::size_t nameLength = attribute.nameLength();
+    const std::size_t most = mostOf(attribute);
+    char* to = writer_->place(nameLength + kMostPunctuation + most);
+    if (to == nullptr) {
+      writeCut(attribute, most);
+      continue;
+    }
+    copyShort(to, attribute.name_, nameLength);
+    to += nameLength;
+    if (attribute.has(Attribute::kBlankBeforeEquals)) *to++ = ' ';
+    std::memcpy(to, "=\"", 2);
+    to = putValue(to + 2, attribute, most);
+    *to++ = '"';
+    if (!attribute.has(Attribute::kThenNothing)) *to++ = attribute.has(Attribute::kThenBlank) ? ' ' : '\n';
+    writer_->advanceTo(to);
   }
 }
 
-// Nearly all attributes are a text or a decimal int on a line of their own, and fit: one check of the room, no calls.
-bool BodyIo::writeCommon(const Attribute& attribute) {
-  const bool isText = attribute.kind() == Kind::Text;
-  const bool isInt = attribute.kind() == Kind::Int32;
-  if ((!isText && !isInt) || !attribute.isPlain()) return false;
-  const char* const text = static_cast<const char*>(attribute.field_);
-  const std::size_t length = isText ? boundedLength(text, attribute.capacity()) : BodyWriter::kMostDigits;
-  constexpr std::size_t kPunctuation = 4;
-  char* to = writer_->place(attribute.nameLength() + length + kPunctuation);
-  if (to == nullptr) return false;
-  copyShort(to, attribute.name_, attribute.nameLength());
-  to += attribute.nameLength();
-  std::memcpy(to, "=\"", 2);
-  to += 2;
-  if (isText) {
-    copyShort(to, text, length);
-    to += length;
-  } else {
-    to = BodyWriter::putDecimal(to, load<std::int32_t>(attribute.field_));
-  }
-  std::memcpy(to, "\"\n", 2);
-  writer_->advanceTo(to + 2);
-  return true;
-}
-
-void BodyIo::writeAny(const Attribute& attribute) {
+// The same piece by piece, for the attribute that is cut.
+void BodyIo::writeCut(const Attribute& attribute, std::size_t most) {
   writer_->text(attribute.name_, attribute.nameLength());
   if (attribute.has(Attribute::kBlankBeforeEquals)) writer_->character(' ');
   writer_->literal("=\"");
-  writeValue(attribute);
-  if (attribute.has(Attribute::kThenNothing)) {
-    writer_->character('"');
-  } else {
-    writer_->text(attribute.has(Attribute::kThenBlank) ? "\" " : "\"\n", 2);
-  }
+  writeValue(attribute, most);
+  writer_->character('"');
+  if (!attribute.has(Attribute::kThenNothing)) writer_->character(attribute.has(Attribute::kThenBlank) ? ' ' : '\n');
 }
 
-void BodyIo::writeValue(const Attribute& attribute) {
-  const void* field = attribute.field_;
+void BodyIo::writeValue(const Attribute& attribute, std::size_t most) {
+  if (attribute.kind() == Kind::Text) {
+    writer_->text(static_cast<const char*>(attribute.field_), most);
+    return;
+  }
+  char value[Attribute::kMostNumbers * (BodyWriter::kMostPadded + 1)];
+  writer_->text(value, static_cast<std::size_t>(putValue(value, attribute, most) - value));
+}
+
+// How many bytes a value takes at most; a text takes just as many.
+std::size_t BodyIo::mostOf(const Attribute& attribute) {
   switch (attribute.kind()) {
-    case Kind::Int32:
-      if (attribute.conversion() != Attribute::kHexadecimal) {
-        writer_->decimal(load<std::int32_t>(field));
-        break;
-      }
-      [[fallthrough]];
-    case Kind::UInt32:
-      writeUnsigned(attribute, load<std::uint32_t>(field), load<std::int32_t>(field));
-      break;
-    case Kind::UInt64:
-      writeUnsigned(attribute, load<std::uint64_t>(field), load<std::int64_t>(field));
-      break;
-    case Kind::UInt8:
-      writer_->unsignedDecimal(load<std::uint8_t>(field));
-      break;
+    case Kind::Text:
+      return boundedLength(static_cast<const char*>(attribute.field_), attribute.capacity());
     case Kind::Float:
-      writer_->fixed(load<float>(field));
-      break;
-    case Kind::Text: {
-      const char* text = static_cast<const char*>(field);
-      writer_->text(text, boundedLength(text, attribute.capacity()));
-      break;
-    }
+      return BodyWriter::kMostFixed;
     case Kind::Int32List:
     case Kind::UInt8List:
-      writeList(attribute);
+      return attribute.numbers() * (BodyWriter::kMostPadded + 1);
+    default:
+      return BodyWriter::kMostDigits;
+  }
+}
+
+char* BodyIo::putValue(char* to, const Attribute& attribute, std::size_t textLength) {
+  const void* const field = attribute.field_;
+  switch (attribute.kind()) {
+    case Kind::Text:
+      copyShort(to, static_cast<const char*>(field), textLength);
+      return to + textLength;
+    case Kind::Int32:
+      if (attribute.conversion() == Attribute::kHexadecimal) break;
+      return BodyWriter::putDecimal(to, load<std::int32_t>(field));
+    case Kind::UInt8:
+      return BodyWriter::putUnsigned(to, load<std::uint8_t>(field));
+    case Kind::UInt64:
+      return putUnsigned(to, attribute, load<std::uint64_t>(field), load<std::int64_t>(field));
+    case Kind::Float:
+      return BodyWriter::putFixed(to, load<float>(field));
+    case Kind::Int32List:
+    case Kind::UInt8List:
+      return putList(to, attribute);
+    default:
       break;
   }
+  return putUnsigned(to, attribute, load<std::uint32_t>(field), load<std::int32_t>(field));
 }
 
-void BodyIo::writeUnsigned(const Attribute& attribute, std::uint64_t value, std::int64_t asSigned) {
-  if (attribute.conversion() == Attribute::kHexadecimal) {
-    writer_->hexadecimal(value);
-  } else if (attribute.conversion() == Attribute::kAsSigned) {
-    writer_->decimal(asSigned);
-  } else {
-    writer_->unsignedDecimal(value);
+char* BodyIo::putUnsigned(char* to, const Attribute& attribute, std::uint64_t value, std::int64_t asSigned) {
+  switch (attribute.conversion()) {
+    case Attribute::kHexadecimal:
+      return BodyWriter::putHexadecimal(to, value);
+    case Attribute::kAsSigned:
+      return BodyWriter::putDecimal(to, asSigned);
+    default:
+      return BodyWriter::putUnsigned(to, value);
   }
 }
 
-void BodyIo::writeList(const Attribute& attribute) {
-  const unsigned width = attribute.padding() == '\0' ? 1 : 2;
+char* BodyIo::putList(char* to, const Attribute& attribute) {
+  const char padding = attribute.padding();
+  const unsigned width = padding == '\0' ? 1 : 2;
+  const bool small = attribute.kind() == Kind::UInt8List;
   for (std::size_t i = 0; i < attribute.numbers(); ++i) {
-    const std::int32_t number = attribute.kind() == Kind::UInt8List ? load<std::uint8_t>(attribute.field_, i)
-                                                                    : load<std::int32_t>(attribute.field_, i);
-    if (i > 0) writer_->character(attribute.separator());
-    writer_->padded(number, width, attribute.padding());
+    const void* const field = attribute.field_;
+    const std::int32_t number = small ? load<std::uint8_t>(field, i) : load<std::int32_t>(field, i);
+    if (i > 0) *to++ = attribute.separator();
+    to = BodyWriter::putPadded(to, number, width, padding);
   }
+  return to;
 }
 
 void BodyIo::read(const ElementReader& element, Attributes attributes) {

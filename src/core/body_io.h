@@ -80,11 +80,12 @@ class BodyIo {
   ElementReader find(const char* name);
   void open(const char* name, const char* end);
   void write(Attributes attributes);
-  bool writeCommon(const Attribute& attribute);
-  void writeAny(const Attribute& attribute);
-  void writeValue(const Attribute& attribute);
-  void writeUnsigned(const Attribute& attribute, std::uint64_t value, std::int64_t asSigned);
-  void writeList(const Attribute& attribute);
+  void writeCut(const Attribute& attribute, std::size_t most);
+  void writeValue(const Attribute& attribute, std::size_t most);
+  static std::size_t mostOf(const Attribute& attribute);
+  static char* putValue(char* to, const Attribute& attribute, std::size_t textLength);
+  static char* putUnsigned(char* to, const Attribute& attribute, std::uint64_t value, std::int64_t asSigned);
+  static char* putList(char* to, const Attribute& attribute);
   static bool isWritten(const Attribute& attribute);
 
   static void read(const ElementReader& element, Attributes attributes);

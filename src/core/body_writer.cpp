@@ -30,12 +30,26 @@ char* decimalBefore(char* end, std::uint64_t value) {
   return value <= UINT32_MAX ? digitsBefore(end, static_cast<std::uint32_t>(value)) : digitsBefore(end, value);
 }
 
+std::size_t digitCount(std::uint64_t value) {
+  std::size_t count = 1;
+  for (; value > UINT32_MAX; value /= 10) ++count;
+  for (auto small = static_cast<std::uint32_t>(value);; small /= 10000, count += 4) {
+    if (small < 10) return count;
+    if (small < 100) return count + 1;
+    if (small < 1000) return count + 2;
+    if (small < 10000) return count + 3;
+  }
+}
+
 constexpr unsigned kMantissaBits = 23;
 constexpr int kExponentBias = 127 + static_cast<int>(kMantissaBits);
 constexpr std::uint32_t kMillion = 1000000;
 
 // The exact decimal digits of mantissa * 2^exponent, which may need 128 bits: repeated division by ten.
-char* largeIntegerBefore(char* end, std::uint32_t mantissa, unsigned exponent) {
+char* putLargeInteger(char* to, std::uint32_t mantissa, unsigned exponent) {
+  char digits[40];
+  char* const end = digits + sizeof digits;
+  char* begin = end;
   std::uint32_t words[5] = {};
   const std::uint64_t shifted = static_cast<std::uint64_t>(mantissa) << (exponent % 32);
   words[exponent / 32] = static_cast<std::uint32_t>(shifted);
@@ -50,9 +64,11 @@ char* largeIntegerBefore(char* end, std::uint32_t mantissa, unsigned exponent) {
       more = more || words[i] != 0;
       rest %= 10;
     }
-    *--end = static_cast<char>('0' + static_cast<unsigned>(rest));
+    *--begin = static_cast<char>('0' + static_cast<unsigned>(rest));
   }
-  return end;
+  const std::size_t length = static_cast<std::size_t>(end - begin);
+  std::memcpy(to, begin, length);
+  return to + length;
 }
 
 // Millionths of mantissa / 2^shift, rounded half to even as printf does.
@@ -80,12 +96,9 @@ char* BodyWriter::putUnsigned(char* to, std::uint64_t value) {
     *to = static_cast<char>('0' + value);
     return to + 1;
   }
-  char digits[kMostDigits];
-  char* const end = digits + sizeof digits;
-  const char* const begin = decimalBefore(end, value);
-  const std::size_t length = static_cast<std::size_t>(end - begin);
-  copyShort(to, begin, length);
-  return to + length;
+  char* const end = to + digitCount(value);
+  decimalBefore(end, value);
+  return end;
 }
 
 char* BodyWriter::putDecimal(char* to, std::int64_t value) {
@@ -94,67 +107,57 @@ char* BodyWriter::putDecimal(char* to, std::int64_t value) {
   return putUnsigned(to + 1, 0 - static_cast<std::uint64_t>(value));
 }
 
-void BodyWriter::decimal(std::int64_t value) {
-  char digits[kMostDigits];
-  text(digits, static_cast<std::size_t>(putDecimal(digits, value) - digits));
+char* BodyWriter::putHexadecimal(char* to, std::uint64_t value) {
+  std::size_t digits = 1;
+  while (digits < 16 && (value >> (4 * digits)) != 0) ++digits;
+  char* const end = to + digits;
+  for (char* digit = end; digit > to; value >>= 4) *--digit = "0123456789abcdef"[value & 15];
+  return end;
 }
 
-void BodyWriter::unsignedDecimal(std::uint64_t value) {
-  char digits[kMostDigits];
-  text(digits, static_cast<std::size_t>(putUnsigned(digits, value) - digits));
-}
-
-void BodyWriter::hexadecimal(std::uint64_t value) {
-  char digits[16];
-  char* const end = digits + sizeof digits;
-  char* begin = end;
-  do {
-    *--begin = "0123456789abcdef"[value & 15];
-    value >>= 4;
-  } while (value != 0);
-  text(begin, static_cast<std::size_t>(end - begin));
+// The sign stands before padding zeros and behind padding blanks.
+char* BodyWriter::putPadded(char* to, std::int32_t value, unsigned width, char padding) {
+  if (width == 2 && padding == '0' && value >= 0 && value < 100) {
+    std::memcpy(to, &kDigitPairs[2 * value], 2);
+    return to + 2;
+  }
+  const bool negative = value < 0;
+  const std::uint32_t magnitude = negative ? 0 - static_cast<std::uint32_t>(value) : static_cast<std::uint32_t>(value);
+  const std::size_t length = digitCount(magnitude) + (negative ? 1 : 0);
+  const std::size_t pads = length < width ? width - length : 0;
+  if (negative && padding == '0') *to++ = '-';
+  for (std::size_t i = 0; i < pads; ++i) *to++ = padding;
+  if (negative && padding != '0') *to++ = '-';
+  return putUnsigned(to, magnitude);
 }
 
 void BodyWriter::padded(std::int32_t value, unsigned width, char padding) {
-  char digits[12];
-  char* const end = digits + sizeof digits;
-  const bool negative = value < 0;
-  const std::uint32_t magnitude = negative ? 0 - static_cast<std::uint32_t>(value) : static_cast<std::uint32_t>(value);
-  char* begin = digitsBefore(end, magnitude);
-  // The sign stands before padding zeros and behind padding blanks.
-  if (negative && padding != '0') *--begin = '-';
-  const unsigned sign = negative && padding == '0' ? 1 : 0;
-  while (static_cast<unsigned>(end - begin) + sign < width) *--begin = padding;
-  if (sign != 0) *--begin = '-';
-  text(begin, static_cast<std::size_t>(end - begin));
+  char digits[2 * kMostPadded];
+  text(digits, static_cast<std::size_t>(putPadded(digits, value, width, padding) - digits));
 }
 
-void BodyWriter::fixed(float value) {
+char* BodyWriter::putFixed(char* to, float value) {
   std::uint32_t bits = 0;
   std::memcpy(&bits, &value, sizeof bits);
   const int biased = static_cast<int>((bits >> kMantissaBits) & 0xFF);
   std::uint32_t mantissa = bits & ((1U << kMantissaBits) - 1);
-  if ((bits >> 31) != 0) character('-');
+  if ((bits >> 31) != 0) *to++ = '-';
   if (biased == 0xFF) {
-    text(mantissa == 0 ? "inf" : "nan", 3);
-    return;
+    std::memcpy(to, mantissa == 0 ? "inf" : "nan", 3);
+    return to + 3;
   }
   if (biased != 0) mantissa |= 1U << kMantissaBits;
   const int exponent = (biased == 0 ? 1 : biased) - kExponentBias;
-  char digits[48];
-  char* const end = digits + sizeof digits;
-  char* begin = nullptr;
   std::uint64_t fraction = 0;
   if (exponent >= 0) {
-    begin = largeIntegerBefore(end, mantissa, static_cast<unsigned>(exponent));
+    to = putLargeInteger(to, mantissa, static_cast<unsigned>(exponent));
   } else {
     const std::uint64_t all = millionths(mantissa, static_cast<unsigned>(-exponent));
     fraction = all % kMillion;
-    begin = digitsBefore(end, all / kMillion);
+    to = putUnsigned(to, all / kMillion);
   }
-  text(begin, static_cast<std::size_t>(end - begin));
-  character('.');
-  padded(static_cast<std::int32_t>(fraction), 6, '0');
+  *to++ = '.';
+  return putPadded(to, static_cast<std::int32_t>(fraction), 6, '0');
 }
 
 }  // namespace kov

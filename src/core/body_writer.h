@@ -44,11 +44,10 @@ class BodyWriter {
 
   void character(char c) { text(&c, 1); }
 
-  void decimal(std::int64_t value);                               // "%d", "%lld"
-  void unsignedDecimal(std::uint64_t value);                      // "%u", "%llu"
-  void hexadecimal(std::uint64_t value);                          // "%x", "%llx"
-  void padded(std::int32_t value, unsigned width, char padding);  // "%02d", "%2d"
-  void fixed(float value);                                        // "%f"
+  void decimal(std::int64_t value) { number(&putDecimal, value); }            // "%d", "%lld"
+  void unsignedDecimal(std::uint64_t value) { number(&putUnsigned, value); }  // "%u", "%llu"
+  void hexadecimal(std::uint64_t value) { number(&putHexadecimal, value); }   // "%x", "%llx"
+  void padded(std::int32_t value, unsigned width, char padding);              // "%02d", "%2d"
 
   // The length of the whole text, cut or not.
   std::size_t length() const { return written() + cut_; }
@@ -64,15 +63,24 @@ class BodyWriter {
   char* place(std::size_t atMost) { return atMost <= room() ? cursor_ : nullptr; }
   void advanceTo(char* end) { cursor_ = end; }
 
-  // The longest number.
+  // The same conversions for that place: each returns the end of what it wrote, which is at most as long as named here.
   static constexpr std::size_t kMostDigits = 20;
-  // Writes a decimal number where room for kMostDigits is and returns its end.
   static char* putDecimal(char* to, std::int64_t value);
   static char* putUnsigned(char* to, std::uint64_t value);
+  static char* putHexadecimal(char* to, std::uint64_t value);
+  static constexpr std::size_t kMostPadded = 12;  // for a width up to that
+  static char* putPadded(char* to, std::int32_t value, unsigned width, char padding);
+  static constexpr std::size_t kMostFixed = 48;
+  static char* putFixed(char* to, float value);  // "%f"
 
  private:
   std::size_t room() const { return static_cast<std::size_t>(end_ - cursor_); }
   void cut(const char* text, std::size_t length);
+  template <class Value>
+  void number(char* (*put)(char*, Value), Value value) {
+    char digits[kMostDigits];
+    text(digits, static_cast<std::size_t>(put(digits, value) - digits));
+  }
 
   char* begin_;
   char* cursor_;
