@@ -1,31 +1,35 @@
 #include "ratios.h"
 
 #include <cstdio>
+#include <map>
 
 namespace kov::bench {
 
 void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
-  ConsoleReporter::ReportRuns(runs);
   for (const Run& run : runs) {
     const std::string name = run.run_name.function_name;
     const std::size_t slash = name.rfind('/');
     const bool isTime = run.aggregate_name.empty() || run.aggregate_name == "median";
-    if (isTime && slash != std::string::npos) {
-      times_.push_back({name.substr(0, slash), name.substr(slash + 1), run.GetAdjustedCPUTime()});
-    }
+    if (!isTime || slash == std::string::npos) continue;
+    const auto counter = [&run](const char* wanted) {
+      const auto found = run.counters.find(wanted);
+      return found == run.counters.end() ? 0.0 : found->second.value;
+    };
+    results_.push_back(
+        {name.substr(0, slash), name.substr(slash + 1), run.GetAdjustedCPUTime(), counter("blocks"), counter("peak")});
   }
 }
 
 void RatioReporter::printRatios() const {
   std::map<std::string, double> ours;
-  for (const Time& time : times_) {
-    if (time.contender == "kov") ours[time.work] = time.nanoseconds;
+  for (const Result& result : results_) {
+    if (result.contender == "kov") ours[result.work] = result.nanoseconds;
   }
-  std::printf("\n%-28s %-22s %12s %22s\n", "work", "contender", "ns", "kov / contender");
-  for (const Time& time : times_) {
-    const auto kov = ours.find(time.work);
-    const double ratio = kov == ours.end() ? 0 : kov->second / time.nanoseconds;
-    std::printf("%-28s %-22s %12.1f %22.2f\n", time.work.c_str(), time.contender.c_str(), time.nanoseconds, ratio);
+  std::printf(
+      "| work | contender | ns | kov / contender | heap blocks | peak heap, bytes |\n|---|---|---|---|---|---|\n");
+  for (const Result& result : results_) {
+    std::printf("| %s | %s | %.0f | %.2f | %.0f | %.0f |\n", result.work.c_str(), result.contender.c_str(),
+                result.nanoseconds, ours[result.work] / result.nanoseconds, result.blocks, result.peak);
   }
 }
 
@@ -33,6 +37,7 @@ void RatioReporter::printRatios() const {
 
 int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
+  kov::bench::registerAll();
   kov::bench::RatioReporter reporter;
   benchmark::RunSpecifiedBenchmarks(&reporter);
   reporter.printRatios();

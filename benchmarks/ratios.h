@@ -3,25 +3,28 @@
 
 #include <benchmark/benchmark.h>
 
-#include <map>
 #include <string>
 #include <vector>
 
 namespace kov::bench {
 
-// Benchmarks are named "work/contender"; the library's contender is "kov".
+// Registers all benchmarks. They are named "work/contender"; the library's contender is "kov".
+void registerAll();
+
 class RatioReporter : public benchmark::ConsoleReporter {
  public:
   void ReportRuns(const std::vector<Run>& runs) override;
   void printRatios() const;
 
  private:
-  struct Time {
+  struct Result {
     std::string work;
     std::string contender;
     double nanoseconds;
+    double blocks;
+    double peak;
   };
-  std::vector<Time> times_;
+  std::vector<Result> results_;
 };
 
 }  // namespace kov::bench

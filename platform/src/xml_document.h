@@ -12,6 +12,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 #include "kov_platform/xml_parser.h"
 
@@ -35,6 +36,50 @@ struct ElementRecord {
   static constexpr Word kOneAttribute = 4;
 
   Word attributeCount() const { return shape / kOneAttribute; }
+};
+
+/** Compares two names; they are short, so that a call would cost more. */
+inline bool sameName(const char* own, const char* name) {
+  while (*own == *name) {
+    if (*own == '\0') return true;
+    ++own;
+    ++name;
+  }
+  return false;
+}
+
+/**
+ * A name to look for among many. Its first eight bytes, the NUL of a shorter name included, are compared at once. The
+ * bytes behind a shorter name of the document are loaded and masked out; the document's block goes on there.
+ */
+class WantedName {
+ public:
+  explicit WantedName(const char* name) noexcept {
+    unsigned char bytes[kAtOnce] = {};
+    unsigned char kept[kAtOnce] = {};
+    std::size_t length = 0;
+    while (length < kAtOnce) {
+      kept[length] = 0xFF;
+      bytes[length] = static_cast<unsigned char>(name[length]);
+      if (bytes[length++] == 0) break;
+    }
+    std::memcpy(&word_, bytes, kAtOnce);
+    std::memcpy(&mask_, kept, kAtOnce);
+    rest_ = bytes[kAtOnce - 1] != 0 ? name + kAtOnce : nullptr;
+  }
+
+  bool is(const char* own) const noexcept {
+    std::uint64_t word = 0;
+    std::memcpy(&word, own, kAtOnce);
+    return (word & mask_) == word_ && (rest_ == nullptr || sameName(own + kAtOnce, rest_));
+  }
+
+ private:
+  static constexpr std::size_t kAtOnce = 8;
+
+  std::uint64_t word_;
+  std::uint64_t mask_;
+  const char* rest_;  ///< what follows the first eight bytes; null: the name ends within them
 };
 
 constexpr Word kElementWords = sizeof(ElementRecord) / sizeof(Word);
@@ -63,7 +108,7 @@ struct KovXMLParser::Document {
 
   Document(const char* text, std::size_t length) noexcept;
 
-  bool named(Word nameOffset, const char* name) const noexcept;
+  const char* attributeElsewhere(const kov::xml::AttributeRecord* attributes, Word count, const char* name) noexcept;
   Element* find(Word from, Word end, const char* name) const noexcept;
 
   char* text_;

@@ -10,24 +10,18 @@
 
 using kov::xml::AttributeRecord;
 using kov::xml::ElementRecord;
-
-// Names are short: comparing them here costs less than a call.
-bool KovXMLParser::Document::named(Word nameOffset, const char* name) const noexcept {
-  const char* own = text_ + nameOffset;
-  while (*own == *name) {
-    if (*own == '\0') return true;
-    ++own;
-    ++name;
-  }
-  return false;
-}
+using kov::xml::sameName;
+using kov::xml::WantedName;
 
 /** The first element of that name from `from` along the siblings up to `end`; 0 stands behind the last sibling. */
 ElementRecord* KovXMLParser::Document::find(Word from, Word end, const char* name) const noexcept {
-  while (from != end) {
-    auto* element = reinterpret_cast<Element*>(words_ + from);
-    if (named(element->name, name)) return element;
-    from = element->next;
+  if (from == end) return nullptr;
+  auto* element = reinterpret_cast<Element*>(words_ + from);
+  if (sameName(text_ + element->name, name)) return element;
+  if (element->next == end) return nullptr;
+  for (const WantedName wanted(name); element->next != end;) {
+    element = reinterpret_cast<Element*>(words_ + element->next);
+    if (wanted.is(text_ + element->name)) return element;
   }
   return nullptr;
 }
@@ -59,11 +53,26 @@ const char* KovXMLParser::Document::attribute(const void* element, const char* n
   const auto* owner = static_cast<const Element*>(element);
   const auto* attributes = reinterpret_cast<const AttributeRecord*>(owner + 1);
   const Word count = owner->attributeCount();
-  Word at = owner == attributeOwner_ ? attributeStart_ : 0;
+  if (owner != attributeOwner_) {
+    attributeOwner_ = owner;
+    attributeStart_ = 0;
+  }
+  const Word start = attributeStart_;
+  if (start < count && sameName(text_ + attributes[start].name, name)) {
+    attributeStart_ = start + 1;
+    return text_ + attributes[start].value;
+  }
+  return attributeElsewhere(attributes, count, name);
+}
+
+/** Searches the attributes from behind the start on and then from the first. */
+const char* KovXMLParser::Document::attributeElsewhere(const AttributeRecord* attributes, Word count,
+                                                       const char* name) noexcept {
+  const WantedName wanted(name);
+  Word at = attributeStart_;
   for (Word tried = 0; tried < count; ++tried, ++at) {
     if (at >= count) at = 0;
-    if (!named(attributes[at].name, name)) continue;
-    attributeOwner_ = owner;
+    if (!wanted.is(text_ + attributes[at].name)) continue;
     attributeStart_ = at + 1;
     return text_ + attributes[at].value;
   }
