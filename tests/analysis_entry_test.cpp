@@ -43,6 +43,27 @@ TEST_F(AnalysisEntry, TheDocumentMayEndAnywhereInThePayload) {
   EXPECT_EQ(channelOf(analysePayload(tight)), 4);
 }
 
+TEST_F(AnalysisEntry, ThePayloadIsAsItWasWhenNothingFollowsTheDocument) {
+  for (const std::string body : {kBody, std::string("<OTHER/>")}) {
+    const std::string document = received(kType, "3003", body);
+    std::string payload = document;
+    KOV_PROTOCOL_HEADER header;
+    void* result = nullptr;
+    KovProtocolMSGAnalysisStart(payload.data(), static_cast<int>(payload.size()), -1, nullptr, &header, &result);
+    EXPECT_EQ(payload, document);
+    KovProtocolMSGAnalysisStop(&result);
+  }
+}
+
+TEST_F(AnalysisEntry, WhatAFormattingOrderYieldsUnderTheStorageCodeMayBeComposedUnderIt) {
+  const std::string type = "SYSTEM_CONTROL_MESSAGE";
+  const Analysis order =
+      analysePayload(received(type, "1014", "<REQUEST_PARAM DevName=\"" + std::string(70, 'd') + "\"/>"));
+  ASSERT_EQ(order.code, 0);
+  EXPECT_EQ(bodyOf(type, "1014", 1, order.result.get()),
+            "<RESPONSE_PARAM\nSerialNumber=\"" + std::string(63, 'd') + "\"\n/>\n");
+}
+
 TEST_F(AnalysisEntry, IncompleteTextIsRefusedInSilence) {
   const std::string document = received(kType, "3003", kBody);
   EXPECT_EQ(analysePayload(document.substr(0, document.size() - 1)).code, KOV_ERROR_INCOMPLETE);

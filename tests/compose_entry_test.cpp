@@ -125,6 +125,15 @@ TEST_F(ComposeEntry, UnknownTypesAndCodes) {
   EXPECT_GT(compose(9000), 0);
 }
 
+TEST_F(ComposeEntry, TwoFamiliesAreComposedForOneCodeOnly) {
+  for (const char* type : {"PTZ_CONTROL_MESSAGE", "ALARM_REPORT_MESSAGE"}) {
+    resetPlatform();
+    header_ = headerOf(type, "OTHER");
+    EXPECT_EQ(compose(9000), KOV_ERROR_UNKNOWN_MESSAGE);
+    EXPECT_EQ(logLines(), std::vector<std::string>{"E PTZ_CONTROL_MESSAGE deal a unknow Msg_code:OTHER !!!\n"});
+  }
+}
+
 TEST_F(ComposeEntry, HeaderFieldsWithoutTerminatorStayInside) {
   std::memset(static_cast<void*>(&header_), 'x', sizeof header_);
   param_ = nullptr;

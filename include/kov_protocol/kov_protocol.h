@@ -168,11 +168,12 @@ KOV_API int KovProtocolXMLCompose(const KOV_PROTOCOL_HEADER *header, const void 
  *                   leave it alone.
  * @return 0, for a transparent message (then a TRANSPARENT_HEADER in `result`) the length of its payload, or:
  *   - KOV_ERROR_EMPTY_ARGUMENT, "KovProtocolXMLAnalysis Invaild Input Param\n": a null pointer, or `len` < 1
- *   - KOV_ERROR_NO_MEMORY, "KovProtocolMalloc faile!!\n" (work block) or "Malloc Memory failed!\n" (record)
+ *   - KOV_ERROR_NO_MEMORY, "KovProtocolMalloc faile!!\n" (work block or copy) or "Malloc Memory failed!\n" (record)
  *   - KOV_ERROR_CODING, "KovProtocolEncode faile!!, ret:%d\n": the decoder failed
  *   - KOV_ERROR_INCOMPLETE, silent: no closing root tag, or no message inside a transparent document
  *   - KOV_ERROR_SIZE, "Error: iBufLen(%d) small than len(%d)\n": embedded text of 8192 bytes or more
- *   - KOV_ERROR_BAD_HEADER, "GetMessageHeader failed! nRet:%d \n": the document or its header cannot be read
+ *   - KOV_ERROR_BAD_HEADER, "GetMessageHeader failed! nRet:%d \n": the document or its header cannot be read, be it
+ *     that the XML reader lacks memory
  *   - KOV_ERROR_UNKNOWN_MESSAGE, "KovProtocolMSGAnalysisStart deal a unknow Msg_type:%s Msg_code:%s !!!\n" or the
  *     family's text
  *   - a family's own code and text

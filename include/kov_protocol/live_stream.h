@@ -93,8 +93,7 @@ KOV_API int LIVE_STREAM_CMD_STREAM_QUALITY_PARAM_init(LIVE_STREAM_CMD_STREAM_STO
  * @param headerExtras     NUL-terminated text that header attributes are appended to, a line each; lines that do not
  *                         fit are left out whole. Null: no header attributes.
  * @param headerExtrasSize bytes of `headerExtras`
- * @param headerExtrasLen  length of the text in `headerExtras`; unless it lies below the size and is not negative, no
- *                         header attributes are written
+ * @param headerExtrasLen  length of the text in `headerExtras`, from 0 and below the size
  * @return 0, or KOV_ERROR_EMPTY_ARGUMENT "LIVE_STREAM_MESSAGE put a empty Param\n", KOV_ERROR_UNKNOWN_MESSAGE
  *   "LIVE_STREAM_MESSAGE deal a unknow Msg_code:%s !!!\n", the latter for a null record too
  */

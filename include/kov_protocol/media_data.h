@@ -2,7 +2,7 @@
  * @file media_data.h
  * @brief MEDIA_DATA_MESSAGE: pieces of binary data that travel behind the document, and what asks for them.
  *
- * Msg_code is a decimal number from 1 to 8. The application sends the piece itself, DataLen bytes and an end code of 4,
+ * Msg_code is a decimal number from 1 to 8. The application sends the piece itself, DataLen bytes and an end code of 4 bytes,
  * behind the composed frame, whose length counts both. In every record an integer of -1 and an empty text are unset,
  * and the fields travel as attributes of their own name.
  *

@@ -112,8 +112,7 @@ typedef struct PTZ_CONTROL_PTZ_CMD_SETWATCHGUARD_PARAM {
  * GetPresetList, GetPresetListEx.
  *
  * GetPresetList answers with plain text, the number of presets and their ids, a caret behind each: "3^1^2^5^".
- * Analysis keeps that text in `list` (its first 1023 bytes) and counts the ids that came, though not beyond the number
- * in front. Text without a number in front leaves `count` unset. Compose writes `count` and the ids, or, while `count`
+ * Analysis keeps that text in `list` (its first 1023 bytes) and takes the number in front as the count, up to 256. Text without a number in front leaves `count` unset. Compose writes `count` and the ids, or, while `count`
  * is unset, `list` as it stands; when that is empty too, it tells "PTZ_CONTROL_MESSAGE deal cmd : %s get the pExData is
  * NULL\n" and composes an empty body.
  *
@@ -219,7 +218,8 @@ typedef struct PTZ_CONTROL_PTZ_CMD_GETLOCUSLIST_PARAM {
   PTZ_CONTROL_LOCUS_LINE line[PTZ_CONTROL_LOCI] KOV_EMPTY;
 } PTZ_CONTROL_PTZ_CMD_GETLOCUSLIST_PARAM;
 
-/** trans: a text for the device behind the channel, carried unread. Compose also takes any NUL-terminated text. */
+/** trans: a text for the device behind the channel, carried unread. Compose also takes any NUL-terminated
+ * text, of which at most 1024 bytes travel. */
 typedef struct PTZ_CONTROL_PTZ_CMD_TRANS_PARAM {
   char data[1024] KOV_EMPTY;
 } PTZ_CONTROL_PTZ_CMD_TRANS_PARAM;

@@ -69,8 +69,8 @@ KOV_API int SystemLogMessageCompose(const SYSTEM_LOG_PARAM *param, int direction
  * RESPONSE_DATA_LEN, or else cmd, or else the text of MESSAGE_BODY, which goes to Data.
  *
  * DataLen bytes of raw data go to Data, at most as many as it holds; DataLen keeps the number that came. They start
- * behind the document's NUL and three more zero bytes. Where those three are not zero, the start of the document takes
- * their place.
+ * behind the document's NUL and three more zero bytes. Where those three are not zero, the data starts with
+ * the document itself: this function takes the document only, the entry goes on with what was received behind it.
  *
  * @param xml    a NUL-terminated document. One whose POS names a DataLen above 0 must be followed in memory by three
  *   bytes and, when these are zero, by DataLen or 40960 bytes, whichever is less: this function gets no length to check

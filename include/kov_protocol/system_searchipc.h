@@ -54,7 +54,7 @@ typedef struct SEARCHIPC_DEVICE_INFO {
   char OsdStr[256] KOV_EMPTY;              /**< OSD, an element left out while this is empty. */
   char FileSystemVersion[128] KOV_EMPTY;   /**< VERSION, an element left out while this is empty. */
   char Name[128] KOV_EMPTY;                /**< Manufacturer, an element left out while this is empty. */
-  int32_t ConnectionCount KOV_DEFAULT(-1); /**< Not carried: -1 leaves Count out; 1 when Count was received. */
+  int32_t ConnectionCount KOV_DEFAULT(-1); /**< Not carried: -1 leaves Count out; 1 when the element came. */
   int16_t Count[SEARCHIPC_CONNECTION_SLOTS] KOV_EMPTY; /**< ConnectionCount: connections in each slot, 0 by default. */
   uint64_t Feature KOV_DEFAULT(UINT64_MAX); /**< DEVICE_TYPE, left out while all bits are set; written signed. */
   char SalesArea[8] KOV_EMPTY;              /**< DEVICE_TYPE, left out while empty. */

@@ -13,7 +13,8 @@ namespace {
 // Peers write a channel number decimal, or hexadecimal behind "0x".
 void readChannel(BodyIo& query, std::int32_t& channel) {
   const char* const raw = query.reader().attribute("ChannelId");
-  const bool hexadecimal = raw != nullptr && raw[0] == '0' && (raw[1] == 'x' || raw[1] == 'X');
+  const char* const digits = raw == nullptr ? "" : raw + std::strspn(raw, " \t\r\n");
+  const bool hexadecimal = digits[0] == '0' && (digits[1] == 'x' || digits[1] == 'X');
   const Attribute number = attr("ChannelId", channel);
   query.attributes({hexadecimal ? number.hex() : number});
 }

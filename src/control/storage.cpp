@@ -49,6 +49,17 @@ void formatStorage(BodyIo& io, SYSTEM_CONTROL_1017_PARAM& r) { io.element("REQUE
 
 constexpr Message kStorageDeviceFormat = {"SystemControl_StorageDeviceFormat_Message", request<formatStorage>, nullptr};
 
+// The formatting's record as 1014 hands it out: whoever takes it for a storage record, as compose does, stays inside.
+struct FormatWithRoom {
+  SYSTEM_CONTROL_1017_PARAM format;
+  unsigned char room[sizeof(SYSTEM_CONTROL_1014_PARAM) - sizeof(SYSTEM_CONTROL_1017_PARAM)] = {};
+};
+static_assert(sizeof(FormatWithRoom) >= sizeof(SYSTEM_CONTROL_1014_PARAM));
+
+void formatWithRoom(BodyIo& io, FormatWithRoom& r) { formatStorage(io, r.format); }
+
+constexpr Message kFormatInStorageCfg = {"SystemControl_StorageDeviceFormat_Message", request<formatWithRoom>, nullptr};
+
 // The codes of the family's storage; composeStorageCfg() and analyseStorageCfg() serve the first instead of a message.
 constexpr CodeRow kRows[] = {{1014, nullptr}, {1017, &kStorageDeviceFormat}};
 
@@ -59,7 +70,7 @@ int analyseBoth(const KovXMLParser& document, void** result) {
   void* storage = nullptr;
   const int stored = kGetIpcStorageCfg.analyse(document, &storage);
   if (stored == KOV_OK || stored == KOV_ERROR_NO_MEMORY) *result = storage;
-  const int formatted = kStorageDeviceFormat.analyse(document, result);
+  const int formatted = kFormatInStorageCfg.analyse(document, result);
   if (storage != nullptr && *result != storage) std::free(storage);
   return formatted;
 }

@@ -69,7 +69,7 @@ int dispatch(const KovXMLParser& document, const ReceivedText& text, int receive
   const Family& family = *row->family;
   if (family.analyse == nullptr) return family.codes->analyse(document, code.text(), result);
   return family.analyse(
-      {document, text.text(), text.length(), text.tail(), text.tailLength(), received, code.text(), result});
+      {document, text.text(), text.documentLength(), text.tail(), text.tailLength(), received, code.text(), result});
 }
 
 int readHeaderAndDispatch(const KovXMLParser& document, const ReceivedText& text, int received,
@@ -82,10 +82,7 @@ int readHeaderAndDispatch(const KovXMLParser& document, const ReceivedText& text
   return dispatch(document, text, received, header, result);
 }
 
-int analyseText(ReceivedText& text, int received, KOV_PROTOCOL_HEADER& header, void** result) {
-  const int quoted = quoteChannel(text);
-  if (quoted != KOV_OK) return quoted;
-  if (!text.terminate()) return KOV_ERROR_NO_MEMORY;
+int parseAndAnalyse(ReceivedText& text, int received, KOV_PROTOCOL_HEADER& header, void** result) {
   KovXMLParser document;
   if (document.Parse(text.text()) != 0) {
     KovProtocolLogError("GetMessageHeader Parse xml error\n");
@@ -97,6 +94,16 @@ int analyseText(ReceivedText& text, int received, KOV_PROTOCOL_HEADER& header, v
     return analyseTransparent(transparent, text, header, result);
   }
   return readHeaderAndDispatch(document, text, received, header, result);
+}
+
+int analyseText(ReceivedText& text, int received, KOV_PROTOCOL_HEADER& header, void** result) {
+  if (quoteChannel(text) != KOV_OK || !text.terminate()) {
+    KovProtocolLogError("KovProtocolMalloc faile!!\n");
+    return KOV_ERROR_NO_MEMORY;
+  }
+  const int analysed = parseAndAnalyse(text, received, header, result);
+  text.restore();
+  return analysed;
 }
 
 // The payload as it was received.

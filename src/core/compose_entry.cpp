@@ -164,6 +164,7 @@ int composeMessage(Request& request, const Encoding& encoding, char* out, int ou
                           request.code.text());
       return KOV_ERROR_UNKNOWN_MESSAGE;
     }
+    if (!isComposed(*row, request.code.text())) return KOV_ERROR_UNKNOWN_MESSAGE;
     request.family = row->family;
   }
   if (row != nullptr && row->framing == Framing::Bare) return composeBare(request, out, outSize);

@@ -50,9 +50,9 @@ struct ComposeCall {
 // One analysis call: the document is parsed once, for all readers.
 struct AnalysisCall {
   const KovXMLParser& document;
-  const char* text;  // NUL-terminated
-  std::size_t textLength;
-  const char* tail;  // what was received behind the document
+  const char* text;        // NUL-terminated
+  std::size_t textLength;  // of the document as it was received; the text may lack a blank of it
+  const char* tail;        // what was received behind the document
   std::size_t tailLength;
   int received;  // length of the whole payload
   const char* msgCode;

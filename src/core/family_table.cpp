@@ -5,6 +5,7 @@
 #include "config/system_config.h"
 #include "control/system_control.h"
 #include "discovery/system_searchipc.h"
+#include "kov_platform/services.h"
 #include "kov_protocol_system_other_msg/nvr_internal.h"
 #include "live/live_stream.h"
 #include "live/media_data.h"
@@ -39,8 +40,8 @@ constexpr FamilyRow kFamilies[] = {
     {"MEDIA_DATA_MESSAGE", kMediaData},
     {"NVR_REPLAY_MESSAGE", kNvrReplay},
     {"REVERSE_AUDIO_MESSAGE", kReverseAudio},
-    {"PTZ_CONTROL_MESSAGE", kPtzControl},
-    {"ALARM_REPORT_MESSAGE", kAlarmReport},
+    FamilyRow("PTZ_CONTROL_MESSAGE", kPtzControl).composedAs("PTZ_CMD"),
+    FamilyRow("ALARM_REPORT_MESSAGE", kAlarmReport).composedAs("CMD_REPORT_ALARM"),
     {"SYSTEM_CONTROL_MESSAGE", kSystemControl},
     {"SYSTEM_CONFIG_GET_MESSAGE", kSystemConfig},
     {"SYSTEM_CONFIG_SET_MESSAGE", kSystemConfig},
@@ -59,6 +60,13 @@ constexpr FamilyRow kFamilies[] = {
 }  // namespace
 
 FamilyRows families() { return {std::begin(kFamilies), std::end(kFamilies)}; }
+
+// All such families speak under the name of the first.
+bool isComposed(const FamilyRow& row, const char* msgCode) {
+  if (row.composedCode == nullptr || sameText(row.composedCode, msgCode)) return true;
+  KovProtocolLogError("PTZ_CONTROL_MESSAGE deal a unknow Msg_code:%s !!!\n", msgCode);
+  return false;
+}
 
 const FamilyRow* findFamily(const char* msgType, std::size_t typeLength, const char* msgCode) {
   for (const FamilyRow& row : families()) {

@@ -17,11 +17,19 @@ struct FamilyRow {
                       const char* code = nullptr)
       : msgType(type), typeLength(Size - 1), family(&served), framing(leaves), onlyCode(code) {}
 
+  // A family that is composed for one code only; it is read whatever the code says.
+  constexpr FamilyRow composedAs(const char* code) const {
+    FamilyRow copy = *this;
+    copy.composedCode = code;
+    return copy;
+  }
+
   const char* msgType;
   std::size_t typeLength;
   const Family* family;
   Framing framing;
   const char* onlyCode;  // the row serves this Msg_code only; null: every code
+  const char* composedCode = nullptr;
 };
 
 struct FamilyRows {
@@ -32,6 +40,9 @@ struct FamilyRows {
 };
 
 FamilyRows families();
+
+// False, and told, when a message of that code is not composed.
+bool isComposed(const FamilyRow& row, const char* msgCode);
 
 // The first row that serves a type and code, null when none does.
 const FamilyRow* findFamily(const char* msgType, std::size_t typeLength, const char* msgCode);

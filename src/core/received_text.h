@@ -31,6 +31,8 @@ class ReceivedText {
 
   const char* text() const { return text_; }
   std::size_t length() const { return length_; }
+  // The length of the document as it was received.
+  std::size_t documentLength() const { return length_ + (droppedBlank_ == '\0' ? 0 : 1); }
   char operator[](std::size_t at) const { return at < length_ ? text_[at] : '\0'; }
 
   // What was received behind the document.

@@ -183,7 +183,8 @@ int LiveStreamMessageCompose(const void* param, int direction, const char* msgCo
   const kov::Message* const message = kov::find(msgCode);
   if (message == nullptr) return KOV_ERROR_UNKNOWN_MESSAGE;
   if (param == nullptr) return KOV_OK;
-  if (headerExtras != nullptr && headerExtrasLen >= 0 && headerExtrasLen < headerExtrasSize) {
+  if (headerExtras != nullptr) {
+    if (headerExtrasLen < 0 || headerExtrasLen >= headerExtrasSize) return kov::refuse();
     kov::HeaderExtras extras(headerExtras, static_cast<std::size_t>(headerExtrasSize),
                              static_cast<std::size_t>(headerExtrasLen));
     kov::composeExtras(message, param, direction, extras);

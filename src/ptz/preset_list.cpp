@@ -75,7 +75,7 @@ void writePresetIds(BodyWriter& body, const PresetList& r) {
   }
 }
 
-// The number in front and the ids behind it may disagree: what counts is what is there.
+// The number in front counts, as far as the table goes; ids that did not come stay empty.
 void readPresetIds(const char* text, PresetList& r) {
   if (*text == '\0') return;
   BodyWriter list(r.list, sizeof r.list);
@@ -85,7 +85,8 @@ void readPresetIds(const char* text, PresetList& r) {
   std::int32_t told = 0;
   const char* number = text;
   if (!items.next() || !scanInt(number, told)) return;
-  r.count = std::clamp(told, 0, readItems(items, r, &PresetEntry::preset_id));
+  readItems(items, r, &PresetEntry::preset_id);
+  r.count = std::clamp(told, 0, kMost);
 }
 
 // The whole body is the list; it is no XML.

@@ -116,10 +116,6 @@ int composeCommand(const PTZ_CONTROL_PTZ_CMD_PARAM& record, int direction, BodyW
 }
 
 int composeFromEntry(ComposeCall& call, BodyWriter& body) {
-  if (!sameText(call.msgCode, PTZ_CONTROL_MESSAGE_CODE)) {
-    KovProtocolLogError("PTZ_CONTROL_MESSAGE deal a unknow Msg_code:%s !!!\n", call.msgCode);
-    return KOV_ERROR_UNKNOWN_MESSAGE;
-  }
   return composeCommand(*static_cast<const PTZ_CONTROL_PTZ_CMD_PARAM*>(call.param), call.direction, body);
 }
 

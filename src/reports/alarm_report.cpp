@@ -148,13 +148,8 @@ int compose(const void* param, int direction, BodyWriter& body, std::uint32_t& e
   return KOV_OK;
 }
 
-// The alarm code is told under the name of the PTZ family.
 int composeCall(ComposeCall& call, BodyWriter& body) {
-  if (sameText(call.msgCode, ALARM_REPORT_MESSAGE_CODE)) {
-    return compose(call.param, call.direction, body, call.extraLen);
-  }
-  KovProtocolLogError("PTZ_CONTROL_MESSAGE deal a unknow Msg_code:%s !!!\n", call.msgCode);
-  return KOV_ERROR_UNKNOWN_MESSAGE;
+  return compose(call.param, call.direction, body, call.extraLen);
 }
 
 // What stands behind the document, as far as it was received.

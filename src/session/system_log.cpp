@@ -64,6 +64,7 @@ struct Received {
   std::size_t textLength;
   const char* tail;
   std::size_t tailLength;
+  bool tailKnown;  // false: nobody said how long it is
 };
 
 bool isSeparated(const Received& received) {
@@ -83,6 +84,8 @@ void copyRawData(const Received& received, SYSTEM_LOG_PARAM& record) {
     const std::size_t separator = std::min<std::size_t>(kSeparator, received.tailLength);
     from = received.tail + separator;
     length = received.tailLength - separator;
+  } else if (received.tailKnown && from + length == received.tail) {
+    length += received.tailLength;
   }
   length = std::min({length, static_cast<std::size_t>(record.DataLen), sizeof record.Data});
   std::memcpy(record.Data, from, length);
@@ -132,7 +135,7 @@ int composeEntry(ComposeCall& call, BodyWriter& body) {
 }
 
 int analyseEntry(const AnalysisCall& call) {
-  return analyse(call.document, {call.text, call.textLength, call.tail, call.tailLength}, call.result);
+  return analyse(call.document, {call.text, call.textLength, call.tail, call.tailLength, true}, call.result);
 }
 
 }  // namespace
@@ -156,5 +159,5 @@ int SystemLogMessageAnalysis(const char* xml, void** result) {
   const int parsed = kov::parseDocument(kov::kLog.name(), xml, document);
   if (parsed != KOV_OK) return parsed;
   const std::size_t length = std::strlen(xml);
-  return kov::analyse(document, {xml, length, xml + length, SIZE_MAX}, result);
+  return kov::analyse(document, {xml, length, xml + length, SIZE_MAX, false}, result);
 }
