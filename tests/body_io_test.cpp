@@ -8,7 +8,7 @@
 #include <cstdarg>
 #include <cstdio>
 
-#include "wire.h"
+#include "golden.h"
 
 namespace kov::test {
 namespace {
@@ -116,8 +116,7 @@ TEST(BodyIoTest, LayoutsOfAttributes) {
                                attr("B", number).thenBlank().blankBeforeEquals(),
                                attr("C", number).thenNothing()});
             }),
-            "<A\nText=\"abc\"\nNumber=\"-1\"\nHex=\"ffffffffffffffff\"\nSigned=\"-1\"\nRange=\"1,-1\"\nSize=\"1*-1\"\n"
-            "Time=\"06:05:-1\"\nPlain=\"6:5:-1\"\nBlank=\" 6: 5:-1\"\nTime8=\"255:255:255\"\nB =\"-1\" C=\"-1\"/>\n");
+            golden("core/layouts.txt"));
 }
 
 struct Entry {
@@ -157,12 +156,13 @@ struct Sample {
   std::int32_t range[2] = {-1, -1};
 };
 
-Sample readSample(const std::string& attributes) {
+// What is read of the attributes, written again.
+std::string rewritten(const std::string& attributes) {
   KovXMLParser document;
   EXPECT_EQ(document.Parse(("<A " + attributes + "/>").c_str()), 0);
   Sample s;
-  BodyIo(ElementReader(document, document.RootElement()))
-      .attributes({{"number", s.number},
+  const auto form = [&s](BodyIo io) {
+    io.attributes({{"number", s.number},
                    attr("zero", s.zero).orZero(),
                    attr("hex", s.hex).hex(),
                    {"wide", s.wide},
@@ -173,38 +173,23 @@ Sample readSample(const std::string& attributes) {
                    {"time8", s.time8},
                    attr("range", s.range).separated('*'),
                    attr("number", s.hex).writeOnly()});
-  return s;
+  };
+  form(BodyIo(ElementReader(document, document.RootElement())));
+  char buffer[1000];
+  BodyWriter writer(buffer, sizeof buffer);
+  form(BodyIo(writer));
+  writer.terminate();
+  return buffer;
 }
 
 TEST(BodyIoTest, ReadsWhatItWritesAndKeepsDefaults) {
-  const Sample read = readSample(
-      "number=' -12x' zero='abc' hex='-1' wide='-1' small='254' score='0.5' text='abcdef' time='6:05:59' "
-      "time8='1:256:3' range='1920*1080'");
-  EXPECT_EQ(read.number, -12);
-  EXPECT_EQ(read.zero, 0);
-  EXPECT_EQ(read.hex, UINT32_MAX);
-  EXPECT_EQ(read.wide, UINT64_MAX);
-  EXPECT_EQ(read.small, 254);
-  EXPECT_EQ(read.score, 0.5F);
-  EXPECT_STREQ(read.text, "abc");
-  EXPECT_EQ(read.time.second, 59);
-  EXPECT_EQ(read.time8.minute, 255);
-  EXPECT_EQ(read.time8.second, 3);
-  EXPECT_EQ(read.range[1], 1080);
-
-  const Sample kept = readSample("number='' hex='xyz' wide='' small='256' score='x' time='6:x' range='1,2'");
-  EXPECT_EQ(kept.number, -1);
-  EXPECT_EQ(kept.zero, -1);
-  EXPECT_EQ(kept.hex, 5U);
-  EXPECT_EQ(kept.wide, 5U);
-  EXPECT_EQ(kept.small, 255);
-  EXPECT_EQ(kept.score, -1.0F);
-  EXPECT_EQ(kept.time.hour, 6);
-  EXPECT_EQ(kept.time.minute, -1);
-  EXPECT_EQ(kept.range[0], 1);
-  EXPECT_EQ(kept.range[1], -1);
-  EXPECT_EQ(readSample("hex='fffffffff'").hex, UINT32_MAX);
-  EXPECT_EQ(readSample("number='99999999999'").number, INT_MAX);
+  EXPECT_EQ(rewritten("number=' -12x' zero='abc' hex='-1' wide='-1' small='254' score='0.5' text='abcdef' "
+                      "time='6:05:59' time8='1:256:3' range='1920*1080'"),
+            golden("core/read.txt"));
+  EXPECT_EQ(rewritten("number='' hex='xyz' wide='' small='256' score='x' time='6:x' range='1,2'"),
+            golden("core/kept.txt"));
+  EXPECT_NE(rewritten("hex='fffffffff'").find("hex=\"ffffffff\"\n"), std::string::npos);
+  EXPECT_NE(rewritten("number='99999999999'").find("number=\"2147483647\"\n"), std::string::npos);
 }
 
 }  // namespace
