@@ -70,6 +70,14 @@ std::string relayed(const std::string& body, int direction) {
   return bodyOf(kType, kCode, direction, &Read<char>(body).record());
 }
 
+// The text of a file, which becomes the same again as a response.
+template <class Block>
+Read<Block> readFile(const std::string& file) {
+  const std::string text = golden("ptz/" + file + ".txt");
+  EXPECT_EQ(relayed(text, 1), text);
+  return Read<Block>(text);
+}
+
 // A command with its block.
 template <class Block>
 struct Command {
@@ -144,28 +152,12 @@ TEST_F(PtzControlTest, MovementIsOneLineInEveryDirection) {
 }
 
 TEST_F(PtzControlTest, RequestsWithValues) {
-  struct {
-    const char* cmd;
-    const char* channel;
-    const char* values;
-  } const kRequests[] = {
-      {"setCurPos", "", "<x>1</x>\n<y>2</y>\n<mul>3</mul>\n"},
-      {"clearpreset", "<channelid>0</channelid>\n", "<preset>1</preset>\n<flag>2</flag>\n"},
-      {"AutoOrbit", "", "<orbit_id>1</orbit_id>\n<orbit_type>2</orbit_type>\n"},
-      {"AddOrbit", "",
-       "<orbit_id>1</orbit_id>\n<orbit_type>2</orbit_type>\n<preset_id>3</preset_id>\n<time>4000000000</time>\n"},
-      {"ClearOrbit", "", "<orbit_id>1</orbit_id>\n<orbit_type>2</orbit_type>\n<preset_index>4</preset_index>\n"},
-      {"SetLocus", "", "<locus_id>1</locus_id>\n<locus_type>2</locus_type>\n"},
-      {"StopRecordLocus", "<channelid>0</channelid>\n", "<locus_id>1</locus_id>\n"},
-  };
-  for (const auto& request : kRequests) {
-    Command<OrbitChange> command(request.cmd, 0);  // the numbers of all these blocks stand in a row
+  for (const char* cmd :
+       {"setCurPos", "clearpreset", "AutoOrbit", "AddOrbit", "ClearOrbit", "SetLocus", "StopRecordLocus"}) {
+    Command<OrbitChange> command(cmd, 0);  // the numbers of all these blocks stand in a row
     command.block = {1, 2, 3, 4, 4000000000U};
-    const std::string body =
-        std::string(request.channel) + "<xml>\n<cmd>" + request.cmd + "</cmd>\n" + request.values + "</xml>\n";
-    EXPECT_EQ(command.body(0), body);
+    command.expectText(cmd, 0);
     EXPECT_EQ(command.body(3), "");
-    EXPECT_EQ(relayed(body, 2), body);
   }
 }
 
@@ -223,13 +215,10 @@ TEST_F(PtzControlTest, PresetListIsReadWithinItsBounds) {
 }
 
 TEST_F(PtzControlTest, NamedPresetListRunsInParallel) {
-  Command<PresetList> list("GetPresetListEx");
-  list.block.guard = 4;
-  list.block.count = 2;
-  set(list.block.preset[0].preset_id, "1");
-  set(list.block.preset[0].name, "door");
-  set(list.block.preset[1].preset_id, "9");
-  list.expectText("preset_names", 1);
+  const auto list = readFile<PresetList>("preset_names");
+  EXPECT_EQ(list->guard, 4);
+  EXPECT_STREQ(list->preset[0].name, "door");
+  EXPECT_STREQ(list->preset[1].preset_id, "9");
   const Read<PresetList> moreNames("<xml><cmd>GetPresetListEx</cmd><preset_id>1</preset_id><name>a^b^c^</name></xml>");
   EXPECT_EQ(moreNames->count, 1);
   EXPECT_STREQ(moreNames->preset[1].name, "");
@@ -239,18 +228,16 @@ TEST_F(PtzControlTest, NamedPresetListRunsInParallel) {
 }
 
 TEST_F(PtzControlTest, OrbitListCarriesTwoTablesOfLines) {
-  Command<OrbitList> list("GetOrbitList");
-  list.block.time_min = 1;
-  list.block.tarck_time_step = 2;
-  list.block.normal_line_count = 2;
-  list.block.normal_line[1].count = 2;
-  set(list.block.normal_line[1].point[0].preset, "7");
-  list.block.normal_line[1].point[0].time = 30;
-  set(list.block.normal_line[1].point[1].preset, "8:9");
-  list.block.track_line_count = INT32_MAX;
-  list.block.track_line[0].count = 0;
-  list.expectText("orbits", 1);
-  EXPECT_STREQ(Read<OrbitList>(golden("ptz/orbits.txt"))->normal_line[1].point[1].preset, "8:9");
+  const auto list = readFile<OrbitList>("orbits");
+  EXPECT_EQ(list->time_min, 1);
+  EXPECT_EQ(list->tarck_time_step, 2);
+  EXPECT_EQ(list->normal_line[1].point[0].time, 30);
+  EXPECT_STREQ(list->normal_line[1].point[1].preset, "8:9");
+  EXPECT_EQ(list->track_line[0].count, 0);
+  Command<OrbitList> command("GetOrbitList");
+  command.block = *list.operator->();
+  command.block.track_line_count = INT32_MAX;
+  command.expectText("orbits", 1);
   EXPECT_EQ(Read<OrbitList>("<xml><cmd>GetOrbitList</cmd></xml>")->track_line_count, -1);
 }
 
@@ -264,12 +251,10 @@ TEST_F(PtzControlTest, OrbitListLeavesOutWhatItCannotRead) {
 }
 
 TEST_F(PtzControlTest, LocusList) {
-  Command<LocusList> list("GetLocusList");
-  list.block.line_max = 4;
-  list.block.line_count = 3;
-  list.block.line[0] = {1, 2, 3};
-  list.block.line[2] = {-1, 0, -1};
-  list.expectText("loci", 1);
+  const auto list = readFile<LocusList>("loci");
+  EXPECT_EQ(list->line_max, 4);
+  EXPECT_EQ(list->line[0].second, 2);
+  EXPECT_EQ(list->line[2].third, -1);
   const std::string odd = "<GetLocusList/><line_data line_1=\"5;6\" line_32=\"1,2\" line_33=\"1,2,3\"/>";
   EXPECT_EQ(relayed(odd, 1),
             "<GetLocusList\nline_max=\"-1\"/>\n<line_data\nline_1=\"5,-1,-1\"\nline_32=\"1,2,-1\"\n/>\n");
