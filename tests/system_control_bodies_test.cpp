@@ -29,10 +29,12 @@ TEST_F(SystemControlBodies, AreReadIntoTheirFields) {
   EXPECT_EQ(readFile<SYSTEM_CONTROL_3020_PARAM>("3020", "restart").Day, 6);
   EXPECT_STREQ(readFile<SYSTEM_CONTROL_3026_PARAM>("3026", "custom").InProjectPwd, "p");
   EXPECT_EQ(readFile<SYSTEM_CONTROL_3300_PARAM>("3300", "display").Chroma, 4);
-  const auto network = readFile<SYSTEM_CONTROL_1026_PARAM>("1026", "network_both");
+  auto network = readFile<SYSTEM_CONTROL_1026_PARAM>("1026", "network_both");
   EXPECT_STREQ(network.Wire.Gateway, "g");
   EXPECT_STREQ(network.Wireless.AccessPoint, "a");
   EXPECT_STREQ(network.Url, "q");
+  set(network.Wireless.IPAddress, "");  // without it there is no wireless part, whatever else is set
+  EXPECT_EQ(bodyOf(kType, "1026", 1, &network), textOf("network_wired"));
   const SYSTEM_CONTROL_1030_PARAM device;  // starts with the low word of its features only
   EXPECT_NE(bodyOf(kType, "1030", 1, &device).find("\nFeature=\"4294967295\"\n"), std::string::npos);
 }

@@ -181,11 +181,8 @@ TEST_F(SystemControlTest, StorageTellsTheFailuresOfBothMessages) {
 TEST_F(SystemControlTest, StorageWithoutMemoryForEitherRecord) {
   const std::string both = received(kType, "1014", kStorage + "<REQUEST_PARAM DevName=\"sda\"/>");
   failAllocation(1);
-  const Analysis first = analysePayload(received(kType, "1014", kStorage));
-  EXPECT_EQ(first.code, KOV_ERROR_NO_ELEMENT);
-  EXPECT_EQ(first.result, nullptr);
+  EXPECT_EQ(analysePayload(received(kType, "1014", kStorage)).result, nullptr);
   EXPECT_EQ(failures(), (Lines{"E Malloc Memory failed!\n", kNoRequest}));
-  resetPlatform();
   failAllocation(2);
   const Analysis second = analysePayload(both);
   EXPECT_EQ(second.code, KOV_ERROR_NO_MEMORY);
