@@ -183,6 +183,7 @@ TEST_F(SystemControlTest, StorageWithoutMemoryForEitherRecord) {
   failAllocation(1);
   EXPECT_EQ(analysePayload(received(kType, "1014", kStorage)).result, nullptr);
   EXPECT_EQ(failures(), (Lines{"E Malloc Memory failed!\n", kNoRequest}));
+  resetPlatform();
   failAllocation(2);
   const Analysis second = analysePayload(both);
   EXPECT_EQ(second.code, KOV_ERROR_NO_MEMORY);
