@@ -4,6 +4,9 @@
  */
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+
 #include "guarded_page.h"
 #include "kov_platform/xml_parser.h"
 
@@ -20,67 +23,62 @@ class XmlTyped : public testing::Test {
     root_ = parser_.RootElement();
   }
 
+  template <class Value>
+  using Reader = int (*)(KovXMLParser, void*, const char*, Value*);
+
+  /** The number of an attribute. */
+  template <class Value>
+  Value read(Reader<Value> reader, const char* name) {
+    Value value = 7;
+    EXPECT_EQ(reader(parser_, root_, name, &value), 0) << name;
+    return value;
+  }
+
+  template <class Value>
+  void expectUnread(Reader<Value> reader, std::initializer_list<const char*> names) {
+    Value value = 7;
+    for (const char* name : names) EXPECT_NE(reader(parser_, root_, name, &value), 0) << name;
+    EXPECT_EQ(value, Value{7});
+  }
+
   KovXMLParser parser_;
   void* root_ = nullptr;
 };
 
 TEST_F(XmlTyped, ReadsNumbers) {
-  int i = 7;
-  unsigned u = 7;
-  unsigned char c = 7;
-  unsigned long long l = 7;
-  float f = 7;
-  EXPECT_EQ(getXmlIntTypeParamAttribute(parser_, root_, "n", &i), 0);
-  EXPECT_EQ(i, -12);
-  EXPECT_EQ(getXmlIntTypeParamAttribute(parser_, root_, "big", &i), 0);
-  EXPECT_EQ(i, 2147483647);
-  EXPECT_EQ(getXmlUIntTypeParamAttribute(parser_, root_, "neg", &u), 0);
-  EXPECT_EQ(u, 4294967295u);
-  EXPECT_EQ(getXmlUIntTypeParamAttribute(parser_, root_, "n", &u), 0);
-  EXPECT_EQ(u, 4294967284u);
-  EXPECT_EQ(getXmlUIntTypeParamAttribute(parser_, root_, "big", &u), 0);
-  EXPECT_EQ(u, 4294967295u);
-  EXPECT_EQ(getXmlUllTypeParamAttribute(parser_, root_, "neg", &l), 0);
-  EXPECT_EQ(l, 18446744073709551615u);
-  EXPECT_EQ(getXmlUllTypeParamAttribute(parser_, root_, "big", &l), 0);
-  EXPECT_EQ(l, 99999999999u);
-  EXPECT_EQ(getXmlUllTypeParamAttribute(parser_, root_, "big64", &l), 0);
-  EXPECT_EQ(l, 18446744073709551615u);
-  EXPECT_EQ(getXmlUCharTypeParamAttribute(parser_, root_, "uc", &c), 0);
-  EXPECT_EQ(c, 255);
-  EXPECT_EQ(getXmlFloatTypeParamAttribute(parser_, root_, "f", &f), 0);
-  EXPECT_EQ(f, -150.0f);
-  EXPECT_EQ(getXmlIntTypeParamByGetText(parser_, root_, &i), 0);
-  EXPECT_EQ(i, 42);
+  EXPECT_EQ(read(getXmlIntTypeParamAttribute, "n"), -12);
+  EXPECT_EQ(read(getXmlIntTypeParamAttribute, "big"), 2147483647);
+  EXPECT_EQ(read(getXmlUIntTypeParamAttribute, "neg"), 4294967295u);
+  EXPECT_EQ(read(getXmlUIntTypeParamAttribute, "n"), 4294967284u);
+  EXPECT_EQ(read(getXmlUIntTypeParamAttribute, "big"), 4294967295u);
+  EXPECT_EQ(read(getXmlUllTypeParamAttribute, "neg"), 18446744073709551615u);
+  EXPECT_EQ(read(getXmlUllTypeParamAttribute, "big"), 99999999999u);
+  EXPECT_EQ(read(getXmlUllTypeParamAttribute, "big64"), 18446744073709551615u);
+  EXPECT_EQ(read(getXmlUCharTypeParamAttribute, "uc"), 255);
+  EXPECT_EQ(read(getXmlFloatTypeParamAttribute, "f"), -150.0f);
+  int text = 7;
+  EXPECT_EQ(getXmlIntTypeParamByGetText(parser_, root_, &text), 0);
+  EXPECT_EQ(text, 42);
 }
 
 TEST_F(XmlTyped, LeavesTheDestinationAloneOnFailure) {
-  int i = 7;
-  unsigned u = 7;
-  unsigned char c = 7;
-  unsigned long long l = 7;
-  float f = 7;
-  for (const char* name : {"none", "s", "absent"}) {
-    EXPECT_NE(getXmlIntTypeParamAttribute(parser_, root_, name, &i), 0) << name;
-    EXPECT_NE(getXmlUIntTypeParamAttribute(parser_, root_, name, &u), 0) << name;
-    EXPECT_NE(getXmlUCharTypeParamAttribute(parser_, root_, name, &c), 0) << name;
-    EXPECT_NE(getXmlUllTypeParamAttribute(parser_, root_, name, &l), 0) << name;
-    EXPECT_NE(getXmlFloatTypeParamAttribute(parser_, root_, name, &f), 0) << name;
+  expectUnread(getXmlIntTypeParamAttribute, {"none", "s", "absent"});
+  expectUnread(getXmlUIntTypeParamAttribute, {"none", "s", "absent"});
+  expectUnread(getXmlUCharTypeParamAttribute, {"none", "s", "absent", "uc2", "neg"});
+  expectUnread(getXmlUllTypeParamAttribute, {"none", "s", "absent"});
+  expectUnread(getXmlFloatTypeParamAttribute, {"none", "s", "absent", "nan"});
+  int text = 7;
+  for (const char* child : {"B", "C"}) {
+    EXPECT_NE(getXmlIntTypeParamByGetText(parser_, parser_.FirstChildElement(root_, child), &text), 0);
   }
-  EXPECT_NE(getXmlUCharTypeParamAttribute(parser_, root_, "uc2", &c), 0);
-  EXPECT_NE(getXmlUCharTypeParamAttribute(parser_, root_, "neg", &c), 0);
-  EXPECT_NE(getXmlFloatTypeParamAttribute(parser_, root_, "nan", &f), 0);
-  EXPECT_NE(getXmlIntTypeParamByGetText(parser_, parser_.FirstChildElement(root_, "B"), &i), 0);
-  EXPECT_NE(getXmlIntTypeParamByGetText(parser_, parser_.FirstChildElement(root_, "C"), &i), 0);
-  EXPECT_TRUE(i == 7 && u == 7 && c == 7 && l == 7 && f == 7);
+  EXPECT_EQ(text, 7);
 }
 
 TEST_F(XmlTyped, CutsTextsToTheirField) {
-  const char* expected[] = {"", "a", "ab", "abc", "abcd", "abcde", "abcdef", "abcdef"};
-  for (int size = 1; size <= 8; ++size) {
-    GuardedBuffer field(static_cast<std::size_t>(size));
-    EXPECT_EQ(getXmlStringTypeParamAttribute(parser_, root_, "s", field.data(), size), 0);
-    EXPECT_STREQ(field.data(), expected[size - 1]);
+  for (std::size_t size = 1; size <= 8; ++size) {
+    GuardedBuffer field(size);
+    EXPECT_EQ(getXmlStringTypeParamAttribute(parser_, root_, "s", field.data(), static_cast<int>(size)), 0);
+    EXPECT_EQ(field.data(), std::string("abcdef", std::min<std::size_t>(size - 1, 6)));
   }
   char text[8] = "keep";
   for (int size : {0, -1, -2147483647 - 1}) {
