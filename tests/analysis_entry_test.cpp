@@ -44,7 +44,7 @@ TEST_F(AnalysisEntry, TheDocumentMayEndAnywhereInThePayload) {
 }
 
 TEST_F(AnalysisEntry, ThePayloadIsAsItWasWhenNothingFollowsTheDocument) {
-  for (const std::string body : {kBody, std::string("<OTHER/>")}) {
+  for (const std::string& body : {kBody, std::string("<OTHER/>")}) {
     const std::string document = received(kType, "3003", body);
     std::string payload = document;
     KOV_PROTOCOL_HEADER header;

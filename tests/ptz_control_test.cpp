@@ -198,7 +198,7 @@ TEST_F(PtzControlTest, PresetListIsReadWithinItsBounds) {
   EXPECT_STREQ(list->preset[2].preset_id, "5");
   EXPECT_STREQ(list->list, "3^1^2 ^5^");
   EXPECT_EQ(list->guard, -1);
-  const std::pair<const char*, int> counts[] = {{"3^1^2 ^5^", 3}, {"9^1^^3", 3},
+  const std::pair<const char*, int> counts[] = {{"3^1^2 ^5^", 3}, {"9^1^^3", 9},
                                                 {"1^1^2^", 1},    {"-5^1^", 0},
                                                 {"x^1^", -1},     {"<xml><cmd>GetPresetList</cmd></xml>", -1}};
   for (const auto& [text, count] : counts) EXPECT_EQ(Read<PresetList>(text)->count, count) << text;
