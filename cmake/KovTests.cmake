@@ -21,6 +21,7 @@ function(kov_test_program target directory)
   add_executable(${target} ${sources})
   target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/platform/src"
                                                "${PROJECT_SOURCE_DIR}/tests")
+  target_compile_definitions(${target} PRIVATE KOV_TEST_WIRE="${PROJECT_SOURCE_DIR}/tests/wire")
   target_link_libraries(${target} PRIVATE kov_protocol_static kov_platform gtest_main)
   kov_program_options(${target})
   if(CMAKE_CROSSCOMPILING)

@@ -1,0 +1,62 @@
+// Trials that the tests of several families put their messages to.
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "golden.h"
+#include "wire.h"
+
+namespace kov::test {
+
+std::string repeated(const std::string& text, int times);
+
+// A text, wire/<directory>/<file>.txt, and the messages that it is: "202-1 5007-1", each a code and a direction.
+struct WireText {
+  std::string file;
+  std::string messages;
+};
+
+// Reads each text as each of its messages, and expects the record to give the same text again.
+void expectBothWays(const std::string& type, const std::string& directory, const std::vector<WireText>& texts);
+
+// What a call returned, what it should have, and the line that it should have left: "" for none.
+struct Told {
+  int code;
+  int expected;
+  std::string line;
+};
+
+// Compares the calls, which were made in their order, with the codes and with all failures that were logged.
+void expectTold(const std::vector<Told>& calls);
+
+// A list on the wire: the text before it, where '#' is its count, an entry, and the text behind it.
+struct WireList {
+  std::string type;
+  std::string code;
+  int direction;
+  int capacity;
+  std::string head;
+  std::string entry;
+  std::string tail;
+
+  std::string text(std::int32_t count, std::int32_t entries) const;
+};
+
+// More entries arrive than the table has room for, and the record claims any number of them.
+template <class Record>
+void expectBounded(const WireList& list, std::int32_t Record::*count) {
+  const Analysis full = analysePayload(received(list.type, list.code, list.text(500, list.capacity + 6)));
+  ASSERT_NE(full.result, nullptr) << list.code;
+  Record& record = *static_cast<Record*>(full.result.get());
+  const bool told = list.head.find('#') != std::string::npos;
+  EXPECT_TRUE(told || record.*count == list.capacity) << list.code;
+  for (const std::int32_t claimed : {list.capacity, INT32_MAX, 1, 0, -2, INT32_MIN}) {
+    record.*count = claimed;
+    const std::string expected = list.text(claimed, std::clamp<std::int32_t>(claimed, 0, list.capacity));
+    EXPECT_EQ(bodyOf(list.type, list.code, list.direction, &record), expected) << list.code;
+  }
+}
+
+}  // namespace kov::test
