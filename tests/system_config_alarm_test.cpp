@@ -10,19 +10,7 @@ class SystemConfigAlarmTest : public WireTest {};
 using Motion = SYSTEM_CONFIG_GET_802_PARAM;
 using Human = SYSTEM_CONFIG_GET_1494_PARAM;
 
-TEST_F(SystemConfigAlarmTest, TextsComeBackAsTheyWere) {
-  expectBothWays(kConfigType, "system_config",
-                 {{"motion", "802-1 822-2"},
-                  {"camera_alarm", "820-0"},
-                  {"light_told", "1300-1"},
-                  {"light_set", "1301-0"},
-                  {"light_audio", "1493-0"},
-                  {"human_alarm", "1494-1 1496-1 1495-0 1497-0"},
-                  {"smart_detection", "1498-1"},
-                  {"channel_query", "2511-2"},
-                  {"push_offline", "2511-4"},
-                  {"smart_changes", "3821-0"},
-                  {"all_alarms", "3822-1"}});
+TEST_F(SystemConfigAlarmTest, FieldsStandUnderTheirNames) {
   const auto light = stored<SYSTEM_CONFIG_GET_1300_PARAM>("1301", "light_told");
   EXPECT_EQ(light->LightVal, 3);
   EXPECT_EQ(light->DefLightMode, -1);

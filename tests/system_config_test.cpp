@@ -72,10 +72,7 @@ TEST_F(SystemConfigTest, DispatchersTellWhatTheyRefuse) {
   EXPECT_EQ(result, body);
 }
 
-TEST_F(SystemConfigTest, TheCodeAloneSelectsTheMessage) {
-  for (const std::string type : {SYSTEM_CONFIG_GET_MESSAGE_TYPE, SYSTEM_CONFIG_SET_MESSAGE_TYPE}) {
-    expectBothWays(type, "system_config", {{"channel_query", "3805-2 501-0"}});
-  }
+TEST_F(SystemConfigTest, BareChannelNumbersAreReadInQueries) {
   const std::string bare = "<REQUEST_PARAM ChannelId=7/>";
   EXPECT_EQ(readBody<SYSTEM_CONFIG_GET_501_PARAM>("501", bare)->ChannelId, 7);
   EXPECT_EQ(readBody<SYSTEM_CONFIG_GET_2511_PARAM>("2511", bare)->ChannelId, 7);

@@ -12,15 +12,6 @@ namespace kov::test {
 
 std::string repeated(const std::string& text, int times);
 
-// A text, wire/<directory>/<file>.txt, and the messages that it is: "202-1 5007-1", each a code and a direction.
-struct WireText {
-  std::string file;
-  std::string messages;
-};
-
-// Reads each text as each of its messages, and expects the record to give the same text again.
-void expectBothWays(const std::string& type, const std::string& directory, const std::vector<WireText>& texts);
-
 // What a call returned, what it should have, and the line that it should have left: "" for none.
 struct Told {
   int code;
