@@ -1,7 +1,7 @@
 #include "kov_protocol/live_stream.h"
 
 #include "every_message.h"
-#include "wire.h"
+#include "trials.h"
 
 namespace kov::test {
 namespace {
@@ -87,24 +87,23 @@ TEST_F(LiveStreamTest, StopAndQualityReadAnyTextAsANumber) {
 TEST_F(LiveStreamTest, TellsWhatItRefusesButNotBadText) {
   char body[8] = "?";
   void* result = nullptr;
-  EXPECT_EQ(LiveStreamMessageCompose("", 0, nullptr, body, 8, nullptr, 0, 0), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(LiveStreamMessageAnalysis(nullptr, "1062", &result), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(LiveStreamMessageAnalysis("", "CMD_STREAM_STOP", nullptr), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(LiveStreamMessageCompose(nullptr, 0, "1062", body, 8, nullptr, 0, 0), 0);
-  EXPECT_EQ(LiveStreamMessageCompose(nullptr, 0, "CMD", body, 8, nullptr, 0, 0), KOV_ERROR_UNKNOWN_MESSAGE);
-  EXPECT_EQ(LiveStreamMessageAnalysis("", "CMD", &result), KOV_ERROR_UNKNOWN_MESSAGE);
-  EXPECT_EQ(analysisCode(kType, "CMD", ""), KOV_ERROR_UNKNOWN_MESSAGE);
-  EXPECT_EQ(LiveStreamMessageAnalysis("<XML_ZANTIR>", "1062", &result), KOV_ERROR_BAD_DOCUMENT);
-  EXPECT_EQ(LiveStreamCmdStartMessageAnalysis("<XML_ZANTIR/>", &result), KOV_ERROR_BAD_DOCUMENT);
-  EXPECT_EQ(analysisCode(kType, "1062", kVideo), KOV_ERROR_NO_ELEMENT);
-  EXPECT_EQ(analysisCode(kType, "CMD_STREAM_QUALITY", "<STREAM_STOP_PARAM/>"), KOV_ERROR_NO_ELEMENT);
   const std::string empty = "E LIVE_STREAM_MESSAGE put a empty Param\n";
   const std::string unknown = "E LIVE_STREAM_MESSAGE deal a unknow Msg_code:CMD !!!\n";
-  EXPECT_EQ(failures(),
-            (std::vector<std::string>{empty, empty, "E LiveStreamCmdStopMessageAnalysis put a empty Param\n", unknown,
-                                      unknown, unknown, "E LiveStreamCmdStartMessageAnalysis get MESSAGE_BODY error\n",
-                                      "E LiveStreamCmdStartMessageAnalysis get STREAM_START_PARAM error\n",
-                                      "E LiveStreamCmdQualityMessageAnalysis get STREAM_QUALITY_PARAM error\n"}));
+  const std::string start = "E LiveStreamCmdStartMessageAnalysis get ";
+  expectTold(
+      {{LiveStreamMessageCompose("", 0, nullptr, body, 8, nullptr, 0, 0), KOV_ERROR_EMPTY_ARGUMENT, empty},
+       {LiveStreamMessageAnalysis(nullptr, "1062", &result), KOV_ERROR_EMPTY_ARGUMENT, empty},
+       {LiveStreamMessageAnalysis("", "CMD_STREAM_STOP", nullptr), KOV_ERROR_EMPTY_ARGUMENT,
+        "E LiveStreamCmdStopMessageAnalysis put a empty Param\n"},
+       {LiveStreamMessageCompose(nullptr, 0, "1062", body, 8, nullptr, 0, 0), 0, ""},
+       {LiveStreamMessageCompose(nullptr, 0, "CMD", body, 8, nullptr, 0, 0), KOV_ERROR_UNKNOWN_MESSAGE, unknown},
+       {LiveStreamMessageAnalysis("", "CMD", &result), KOV_ERROR_UNKNOWN_MESSAGE, unknown},
+       {analysisCode(kType, "CMD", ""), KOV_ERROR_UNKNOWN_MESSAGE, unknown},
+       {LiveStreamMessageAnalysis("<a>", "1062", &result), KOV_ERROR_BAD_DOCUMENT, ""},
+       {LiveStreamCmdStartMessageAnalysis("<a/>", &result), KOV_ERROR_BAD_DOCUMENT, start + "MESSAGE_BODY error\n"},
+       {analysisCode(kType, "1062", kVideo), KOV_ERROR_NO_ELEMENT, start + "STREAM_START_PARAM error\n"},
+       {analysisCode(kType, "CMD_STREAM_QUALITY", "<STREAM_STOP_PARAM/>"), KOV_ERROR_NO_ELEMENT,
+        "E LiveStreamCmdQualityMessageAnalysis get STREAM_QUALITY_PARAM error\n"}});
   EXPECT_STREQ(body, "?");
   EXPECT_EQ(result, nullptr);
 }

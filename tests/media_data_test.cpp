@@ -1,7 +1,7 @@
 #include "kov_protocol/media_data.h"
 
 #include "every_message.h"
-#include "wire.h"
+#include "trials.h"
 
 namespace kov::test {
 namespace {
@@ -132,34 +132,33 @@ TEST_F(MediaDataTest, IntercomPieceMustFillTheMessage) {
   EXPECT_EQ(result, nullptr);
   EXPECT_EQ(direct("<POS DataLen=\"0\"/>", 4), 0);
   KovProtocolMSGAnalysisStop(&result);
-
   resetPlatform();
-  const std::string xml = "<A><MESSAGE_BODY><POS DataLen=\"5\"/></MESSAGE_BODY></A>";
-  EXPECT_EQ(MediaData_IntercomData_MessageAnalysis(xml.c_str(), 66, &result), KOV_ERROR_SIZE);
-  EXPECT_EQ(logLines(), std::vector<std::string>{"E MediaData_IntercomData_MessageAnalysis date size error : "
-                                                 "xmllen(54) datalen(5) endcode(4) all(66)\n"});
+  const char* const xml = "<A><MESSAGE_BODY><POS DataLen=\"5\"/></MESSAGE_BODY></A>";
+  expectTold(
+      {{MediaData_IntercomData_MessageAnalysis(xml, 66, &result), KOV_ERROR_SIZE,
+        "E MediaData_IntercomData_MessageAnalysis date size error : xmllen(54) datalen(5) endcode(4) all(66)\n"}});
 }
 
 TEST_F(MediaDataTest, TellsUnknownCodesEmptyArgumentsAndMissingElements) {
   char body[8] = "?";
   void* result = nullptr;
   std::uint32_t extraLen = 5;
-  MEDIA_DATA_1_PARAM record;
-  EXPECT_EQ(MediaDataMessageCompose(&record, 0, "9", body, 8, &extraLen), KOV_ERROR_UNKNOWN_MESSAGE);
-  EXPECT_EQ(MediaDataMessageAnalysis("", "0", 0, &result), KOV_ERROR_UNKNOWN_MESSAGE);
-  EXPECT_EQ(analysisCode(kType, "9", kPos), KOV_ERROR_UNKNOWN_MESSAGE);
-  EXPECT_EQ(MediaDataMessageCompose(&record, 0, "6", body, 8, nullptr), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(MediaDataMessageAnalysis("", nullptr, 0, &result), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(MediaDataMessageAnalysis("", "3", 0, nullptr), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(analysisCode(kType, "7", "<DataInfo/>"), KOV_ERROR_NO_ELEMENT);
-  EXPECT_EQ(analysisCode(kType, "6", kPos), KOV_ERROR_NO_ELEMENT);
+  const MEDIA_DATA_1_PARAM record;
   const std::string unknown = "E MEDIA_DATA_MESSAGE deal a unknow msg_cdoe : ";
   const std::string empty = "E MEDIA_DATA_MESSAGE put a empty Param\n";
-  EXPECT_EQ(failures(), (std::vector<std::string>{unknown + "9\n", unknown + "0\n", unknown + "9\n", empty, empty,
-                                                  "E MediaData_IntercomData_MessageAnalysis put a empty Param\n",
-                                                  "E MediaData_GetFaceListData_MessageAnalysis get POS error\n",
-                                                  "E MediaData_DeleteFaceData_MessageAnalysis get DataInfo error\n"}));
-  EXPECT_EQ(MediaDataMessageCompose(nullptr, 0, "1", body, 8, &extraLen), 0);
+  expectTold(
+      {{MediaDataMessageCompose(&record, 0, "9", body, 8, &extraLen), KOV_ERROR_UNKNOWN_MESSAGE, unknown + "9\n"},
+       {MediaDataMessageAnalysis("", "0", 0, &result), KOV_ERROR_UNKNOWN_MESSAGE, unknown + "0\n"},
+       {analysisCode(kType, "9", kPos), KOV_ERROR_UNKNOWN_MESSAGE, unknown + "9\n"},
+       {MediaDataMessageCompose(&record, 0, "6", body, 8, nullptr), KOV_ERROR_EMPTY_ARGUMENT, empty},
+       {MediaDataMessageAnalysis("", nullptr, 0, &result), KOV_ERROR_EMPTY_ARGUMENT, empty},
+       {MediaDataMessageAnalysis("", "3", 0, nullptr), KOV_ERROR_EMPTY_ARGUMENT,
+        "E MediaData_IntercomData_MessageAnalysis put a empty Param\n"},
+       {analysisCode(kType, "7", "<DataInfo/>"), KOV_ERROR_NO_ELEMENT,
+        "E MediaData_GetFaceListData_MessageAnalysis get POS error\n"},
+       {analysisCode(kType, "6", kPos), KOV_ERROR_NO_ELEMENT,
+        "E MediaData_DeleteFaceData_MessageAnalysis get DataInfo error\n"},
+       {MediaDataMessageCompose(nullptr, 0, "1", body, 8, &extraLen), 0, ""}});
   EXPECT_STREQ(body, "?");
   EXPECT_EQ(extraLen, 5U);
 }
