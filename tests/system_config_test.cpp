@@ -44,30 +44,22 @@ TEST_F(SystemConfigTest, EveryMessageHasItsSidesAndNames) {
 
 TEST_F(SystemConfigTest, DispatchersTellWhatTheyRefuse) {
   char body[8] = "?";
-  void* result = nullptr;
+  void* result = body;
   const SYSTEM_CONFIG_SET_3805_PARAM record;
-  const std::string compose = "E SystemConfigMessageCompose deal Msg_code:";
-  const std::string analysis = "E SystemConfigMessageAnalysis deal Msg_code:";
-  const std::string end = ", put a empty Param\n";
-  constexpr int kEmpty = KOV_ERROR_EMPTY_ARGUMENT;
-  expectTold({{SystemConfigMessageCompose(&record, 0, "3805", nullptr, 8), kEmpty, compose + "3805" + end},
-              {SystemConfigMessageCompose(&record, 0, "3802", body, 0), kEmpty, compose + "3802" + end},
-              {SystemConfigMessageCompose(&record, 0, nullptr, body, 8), kEmpty, compose + "(null)" + end},
-              {SystemConfigMessageAnalysis(nullptr, "3805", &result), kEmpty, analysis + "3805" + end},
-              {SystemConfigMessageAnalysis("", nullptr, &result), kEmpty, analysis + "(null)" + end},
-              {SystemConfigMessageAnalysis("", "3802", nullptr), kEmpty, analysis + "3802" + end},
-              {SystemConfigMessageCompose(nullptr, 0, "9999", body, 8), 0, ""}});
-  for (const auto& [code, number] : {std::pair("abc", "0"), std::pair("9999", "9999"), std::pair("320", "320")}) {
-    resetPlatform();
-    const std::string line = std::string("E SYSTEM_CONFIG_MESSAGE deal a unknow msg_cdoe : ") + number + "\n";
-    expectTold({{SystemConfigMessageCompose("", 0, code, body, 8), KOV_ERROR_UNKNOWN_MESSAGE, line},
-                {SystemConfigMessageAnalysis("", code, &result), KOV_ERROR_UNKNOWN_MESSAGE, line}});
+  expectTold(
+      "system_config/arguments_calls",
+      {SystemConfigMessageCompose(&record, 0, "3805", nullptr, 8),
+       SystemConfigMessageCompose(&record, 0, "3802", body, 0),
+       SystemConfigMessageCompose(&record, 0, nullptr, body, 8), SystemConfigMessageAnalysis(nullptr, "3805", &result),
+       SystemConfigMessageAnalysis("", nullptr, &result), SystemConfigMessageAnalysis("", "3802", nullptr),
+       SystemConfigMessageCompose(nullptr, 0, "9999", body, 8)});
+  std::vector<Outcome> calls;
+  for (const char* code : {"abc", "9999", "320", "3802"}) {  // 3802 is reserved: it succeeds and does nothing
+    calls.push_back(SystemConfigMessageCompose("", 1, code, body, 8));
+    calls.push_back(SystemConfigMessageAnalysis("no document", code, &result));
   }
-  resetPlatform();
-  result = body;
-  expectTold({{SystemConfigMessageCompose("", 1, "3802", body, 8), 0, ""},  // reserved: succeeds and does nothing
-              {SystemConfigMessageAnalysis("no document", "3802", &result), 0, ""},
-              {analysisCode(kConfigType, "3802", "<REQUEST_PARAM/>"), 0, ""}});
+  calls.push_back(analysisCode(kConfigType, "3802", "<REQUEST_PARAM/>"));
+  expectTold("system_config/codes_calls", calls);
   EXPECT_STREQ(body, "?");
   EXPECT_EQ(result, body);
 }

@@ -110,12 +110,9 @@ TEST_F(SystemLogTest, RefusalsAreTold) {
   record.RespDataLen = INT32_MAX;
   char body[8] = "?";
   int extraLen = -4;
-  const std::string empty = "E SYSTEM_LOG_PARAM put a empty Param\n";
-  const std::string told = "E SystemLogMessageAnalysis ";
-  expectTold({{analysisCode(kLog, "1", " <other/>\n"), KOV_ERROR_NO_ELEMENT, told + "get LockParamInfo error\n"},
-              {SystemLogMessageCompose(&record, 0, body, 8, nullptr), KOV_ERROR_EMPTY_ARGUMENT, empty},
-              {SystemLogMessageAnalysis("", nullptr), KOV_ERROR_EMPTY_ARGUMENT, told + "put a empty Param\n"},
-              {SystemLogMessageCompose(nullptr, 0, body, 8, &extraLen), 0, ""}});
+  expectTold("session/log_calls",
+             {analysisCode(kLog, "1", " <other/>\n"), SystemLogMessageCompose(&record, 0, body, 8, nullptr),
+              SystemLogMessageAnalysis("", nullptr), SystemLogMessageCompose(nullptr, 0, body, 8, &extraLen)});
   EXPECT_EQ(extraLen, -4);
   EXPECT_EQ(SystemLogMessageCompose(&record, 1, body, 8, &extraLen), 0);
   EXPECT_EQ(extraLen, INT32_MAX);
@@ -137,13 +134,11 @@ TEST_F(SystemLogTest, DebugTextTravelsAsItIs) {
 TEST_F(SystemLogTest, DebugTextIsCutOutOfTheDocument) {
   void* result = nullptr;
   const char* const text = "<MESSAGE_BODY>text</MESSAGE_BODY>";
-  const std::string size = " small than len(4)\n";
-  expectTold({{DebugLogMessageAnalysis("<MESSAGE_BODY>text", 99, &result), KOV_ERROR_BAD_DOCUMENT, ""},
-              {DebugLogMessageAnalysis("</MESSAGE_BODY><MESSAGE_BODY>", 99, &result), KOV_ERROR_BAD_DOCUMENT, ""},
-              {DebugLogMessageAnalysis(text, 3, &result), KOV_ERROR_SIZE, "E Error: iBufLen(3)" + size},
-              {DebugLogMessageAnalysis(text, -1, &result), KOV_ERROR_SIZE, "E Error: iBufLen(0)" + size},
-              {DebugLogMessageAnalysis(text, 9, nullptr), KOV_ERROR_EMPTY_ARGUMENT,
-               "E DebugLogMessageAnalysis put a empty Param\n"}});
+  expectTold(
+      "session/debug_calls",
+      {DebugLogMessageAnalysis("<MESSAGE_BODY>text", 99, &result),
+       DebugLogMessageAnalysis("</MESSAGE_BODY><MESSAGE_BODY>", 99, &result), DebugLogMessageAnalysis(text, 3, &result),
+       DebugLogMessageAnalysis(text, -1, &result), DebugLogMessageAnalysis(text, 9, nullptr)});
   EXPECT_EQ(result, nullptr);
   EXPECT_EQ(DebugLogMessageAnalysis(text, 4, &result), 0);
   EXPECT_STREQ(static_cast<DBG_CMD_PARAM*>(result)->Text, "text");

@@ -8,13 +8,15 @@ std::string repeated(const std::string& text, int times) {
   return all;
 }
 
-void expectTold(const std::vector<Told>& calls) {
-  std::vector<std::string> lines;
-  for (const Told& call : calls) {
-    EXPECT_EQ(call.code, call.expected) << call.line;
-    if (!call.line.empty()) lines.push_back(call.line);
-  }
-  EXPECT_EQ(failures(), lines);
+Outcome::Outcome(int code) : text(std::to_string(code) + "\n") {
+  for (const std::string& line : failures()) text += line;
+  resetPlatform();
+}
+
+void expectTold(const std::string& file, const std::vector<Outcome>& calls) {
+  std::string told;
+  for (const Outcome& call : calls) told += call.text;
+  EXPECT_EQ(told, golden(file + ".txt"));
 }
 
 std::string WireList::text(std::int32_t count, std::int32_t entries) const {

@@ -12,15 +12,15 @@ namespace kov::test {
 
 std::string repeated(const std::string& text, int times);
 
-// What a call returned, what it should have, and the line that it should have left: "" for none.
-struct Told {
-  int code;
-  int expected;
-  std::string line;
+// What a call returned and the failures that it logged; the call has just been made.
+struct Outcome {
+  Outcome(int code);  // NOLINT(google-explicit-constructor): lists of calls read as what they are
+
+  std::string text;
 };
 
-// Compares the calls, which were made in their order, with the codes and with all failures that were logged.
-void expectTold(const std::vector<Told>& calls);
+// Calls, in their order, and wire/<file>.txt: the code of each and the lines that it logs.
+void expectTold(const std::string& file, const std::vector<Outcome>& calls);
 
 // A list on the wire: the text before it, where '#' is its count, an entry, and the text behind it.
 struct WireList {
