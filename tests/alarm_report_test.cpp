@@ -68,11 +68,10 @@ TEST_F(AlarmReportTest, FaceCountsItsFeatureData) {
   EXPECT_EQ(analysed<Alarm>(kType, kCode, golden("reports/alarm.txt")).pExData, nullptr);
   const Arrived face("<HumanFaceInfo AlgVer=\"2\"/><ANIMAL_INFO/>");
   face.alarm().Alarm_code = 39;
-  EXPECT_EQ(extraLengthOf(face.alarm()), 1028U);
-  EXPECT_EQ(extraLengthOf(face.alarm(), 3), 0U);
+  EXPECT_EQ((Numbers{extraLengthOf(face.alarm()), extraLengthOf(face.alarm(), 3)}), (Numbers{1028, 0}));
   face.extra().AlgVer = 1;
-  EXPECT_EQ(extraLengthOf(face.alarm()), 516U);
-  EXPECT_EQ(Arrived("<HumanFaceInfo absTime=\"4294967294\"/>").extra().absTime, -2);
+  EXPECT_EQ((Numbers{extraLengthOf(face.alarm()), Arrived("<HumanFaceInfo absTime=\"4294967294\"/>").extra().absTime}),
+            (Numbers{516, -2}));
 }
 
 TEST_F(AlarmReportTest, FeatureDataIsTakenAsFarAsItWasReceived) {
@@ -106,8 +105,7 @@ TEST_F(AlarmReportTest, SmallerExtrasHaveRoomForAFace) {
 
   const Arrived crossing("<CROSSBORDER_INFO CrowdFlowStatEnable=\"1\" CrowdFlowNum=\"7\"/>", tail);
   const auto& read = *static_cast<ALARM_REPORT_CROSSBORDER_INFO*>(crossing.alarm().pExData);
-  EXPECT_EQ(read.CrowdFlowStatEnable, 1);
-  EXPECT_EQ(read.CrowdFlowNum, 7);
+  EXPECT_EQ((Numbers{read.CrowdFlowStatEnable, read.CrowdFlowNum}), (Numbers{1, 7}));
   resetPlatform();
   EXPECT_EQ(crossing.bodyAs(40).find("CROSSBORDER"), std::string::npos);
   EXPECT_EQ(failures(),

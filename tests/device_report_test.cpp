@@ -13,10 +13,9 @@ TEST_F(DeviceReportTest, PositionEndsBeforeTheReservedWord) {
   EXPECT_STREQ(analysed<DEVICE_REPORT_3900_PARAM>(kType, "3900", golden("reports/status.txt")).streamstat,
                "1,0 & more");
   auto record = analysed<DEVICE_REPORT_3901_PARAM>(kType, "3901", golden("reports/position.txt"));
-  EXPECT_EQ(record.y, -2);
-  EXPECT_EQ(record.linkage, 0);
-  EXPECT_EQ(record.reserved, 0);
-  EXPECT_EQ(analysed<DEVICE_REPORT_3901_PARAM>(kType, "3901", "<xml><x>5</x></xml>").mul, -1);
+  EXPECT_EQ((Numbers{record.y, record.linkage, record.reserved,
+                     analysed<DEVICE_REPORT_3901_PARAM>(kType, "3901", "<xml><x>5</x></xml>").mul}),
+            (Numbers{-2, 0, 0, -1}));
   record.reserved = 77;
   EXPECT_EQ(DEVICE_REPORT_3901_PARAM_init(&record), 0);
   for (const std::int32_t value : {record.x, record.y, record.mul, record.maxMul, record.linkage}) EXPECT_EQ(value, -1);

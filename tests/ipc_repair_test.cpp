@@ -22,8 +22,7 @@ TEST_F(IpcRepairTest, RequestsAndResponsesShareElementsAndFields) {
   const std::string response = golden("reports/firmware_answer.txt");
   const auto both = read("<IPC_ALG_REPAIR Alm=\"a\"/>" + response);
   EXPECT_EQ(bodyOf(kType, "", 1, &both), response);
-  EXPECT_STREQ(both.Mac, "ipc");
-  EXPECT_STREQ(both.IPCMac, "ipc");
+  EXPECT_EQ((Texts{both.Mac, both.IPCMac}), (Texts{"ipc", "ipc"}));
 
   auto answered = read(golden("reports/algorithm_answer.txt"));
   EXPECT_STREQ(answered.Ipaddr, "10.0.0.2");

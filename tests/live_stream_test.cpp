@@ -54,8 +54,7 @@ TEST_F(LiveStreamTest, ResponseTellsTheTransport) {
 
 TEST_F(LiveStreamTest, ResponseNumbersStandInTheHeader) {
   Start record = arrived("<TRANS_PARAM StreamID=\"7\" VideoStream=\"0\" AudioEnable=\"1\"/>");
-  EXPECT_EQ(record.VideoStream, 0);
-  EXPECT_EQ(record.AudioEnable, 1);
+  EXPECT_EQ((Numbers{record.VideoStream, record.AudioEnable}), (Numbers{0, 1}));
   record.VideoStream = -1;
   const auto position = [&record](int direction, const std::string& text) {
     return documentOf(kType, "CMD_STREAM_START", direction, &record).find(text);

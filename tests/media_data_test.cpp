@@ -99,8 +99,7 @@ TEST_F(MediaDataTest, ThumbnailTimesAreSeparatedByCommas) {
   record = analysed<MEDIA_DATA_8_PARAM>(kType, "8",
                                         "<POS/><REQUEST_PARAM TimeList=\"" + times.substr(0, 17) +
                                             "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21\"/>");
-  EXPECT_STREQ(record.TimeList[19], "19");
-  EXPECT_STREQ(record.reserved2, "");
+  EXPECT_EQ((Texts{record.TimeList[19], record.reserved2}), (Texts{"19", ""}));
   record = analysed<MEDIA_DATA_8_PARAM>(kType, "8", "<POS/><REQUEST_PARAM TimeList=\"A,,B\"/>");
   EXPECT_EQ(compose("8", 0, &record), "<REQUEST_PARAM\nTimeList=\"A,B,\"\n/>\n+0");
 
@@ -149,8 +148,8 @@ TEST_F(MediaDataTest, TellsUnknownCodesEmptyArgumentsAndMissingElements) {
        MediaDataMessageAnalysis("", nullptr, 0, &result), MediaDataMessageAnalysis("", "3", 0, nullptr),
        analysisCode(kType, "7", "<DataInfo/>"), analysisCode(kType, "6", kPos),
        MediaDataMessageCompose(nullptr, 0, "1", body, 8, &extraLen)});
+  EXPECT_EQ(extraLen, 5);
   EXPECT_STREQ(body, "?");
-  EXPECT_EQ(extraLen, 5U);
 }
 
 }  // namespace

@@ -26,8 +26,9 @@ TEST_F(NvrInternalTest, LockReadsTwoStreamsByNumberAndWritesThemInOrder) {
   const auto read = locked(two + one);
   EXPECT_EQ(read.StreamConfig[0].BitRate, 4000000000);
   EXPECT_EQ(bodyOf(kType, "4001", 0, &read), text);
-  EXPECT_EQ(locked(two + two + one).StreamConfig[0].Stream, 255);
-  EXPECT_EQ(locked(two + two + one).StreamConfig[1].Initquant, 1);
+  EXPECT_EQ(
+      (Numbers{locked(two + two + one).StreamConfig[0].Stream, locked(two + two + one).StreamConfig[1].Initquant}),
+      (Numbers{255, 1}));
 }
 
 TEST_F(NvrInternalTest, LockRefusesStreamsThatAreNotTheTwo) {
@@ -46,8 +47,7 @@ TEST_F(NvrInternalTest, ChannelListClosesItsGapsAndStopsAtItsCountAndItsTable) {
   const auto list = [](const std::string& body) { return analysed<NVR_INTERNAL_4002_PARAM>(kType, "4002", body); };
   const std::string body = golden("nvr_internal/channels.txt");
   auto read = list("<REQUEST_PARAM SrcIp=\"x\"/>" + body);
-  EXPECT_STREQ(read.SrcIp, "10.0.0.1");
-  EXPECT_STREQ(read.ChannelInfo[1].IpAddr, "c");
+  EXPECT_EQ((Texts{read.SrcIp, read.ChannelInfo[1].IpAddr}), (Texts{"10.0.0.1", "c"}));
   std::swap(read.ChannelInfo[1], read.ChannelInfo[2]);
   set(read.ChannelInfo[3].IpAddr, "beyond");
   EXPECT_EQ(bodyOf(kType, "4002", 4, &read), body);
@@ -59,8 +59,9 @@ TEST_F(NvrInternalTest, ChannelListClosesItsGapsAndStopsAtItsCountAndItsTable) {
   EXPECT_STREQ(full.ChannelInfo[63].IpAddr, "63");
   const std::string written = bodyOf(kType, "4002", 1, &full);
   EXPECT_EQ(written.substr(written.rfind('<')), "<ChannelInfo\nIpAddr=\"63\"\n/>\n");
-  EXPECT_STREQ(list("<RESPONSE_PARAM ChannelCount=\"1\"/>" + channels).ChannelInfo[1].IpAddr, "");
-  EXPECT_STREQ(list("<RESPONSE_PARAM/>" + channels).ChannelInfo[0].IpAddr, "");
+  EXPECT_EQ((Texts{list("<RESPONSE_PARAM ChannelCount=\"1\"/>" + channels).ChannelInfo[1].IpAddr,
+                   list("<RESPONSE_PARAM/>" + channels).ChannelInfo[0].IpAddr}),
+            (Texts{"", ""}));
 }
 
 TEST_F(NvrInternalTest, ChannelListNeedsItsPeerAndItsCount) {

@@ -61,8 +61,8 @@ TEST_F(SessionTest, LoginTellsTheVendorButDoesNotReadIt) {
   const Login none;
   EXPECT_EQ(bodyOf(kLogin, "1", 1, &none), "");
   read = analysed<Login>(kLogin, "1", body + "<USER_AUTH_RESPONSE MAXChannels=\"9z\"/>");
-  EXPECT_STREQ(read.VendorId, "");
   EXPECT_EQ(read.MAXChannels, 9);
+  EXPECT_STREQ(read.VendorId, "");
   const std::string odd = "<USER_AUTH_PARAM AuthMethod=\"x\" Username=\"" + std::string(40, 'u') + "\"/>";
   EXPECT_EQ(std::string(analysed<Login>(kLogin, "1", odd).Username), std::string(31, 'u'));
   EXPECT_EQ(analysed<Login>(kLogin, "1", odd).AuthMethod, 0);  // present, but no number
@@ -78,14 +78,14 @@ TEST_F(SessionTest, LoginWithoutBodySucceedsWithoutKeys) {
               UserAuthMessageCompose(&record, 1, body, 8)});
   EXPECT_STREQ(body, "?");
   ASSERT_NE(result, nullptr);
-  EXPECT_EQ(static_cast<Login*>(result)->KeyTypeVer, 0);
-  EXPECT_EQ(static_cast<Login*>(result)->Version, -1);
+  EXPECT_EQ((Numbers{static_cast<Login*>(result)->KeyTypeVer, static_cast<Login*>(result)->Version}), (Numbers{0, -1}));
   KovProtocolMSGAnalysisStop(&result);
 }
 
 TEST_F(SessionTest, KeyNeedsNoElement) {
-  EXPECT_EQ(analysed<Key>(kKey, "150", "<KeyConfig KeyLen=\"\"/>").KeyLen, 0);
-  EXPECT_EQ(analysed<Key>(kKey, "150", "").KeyLen, -1);
+  EXPECT_EQ(
+      (Numbers{analysed<Key>(kKey, "150", "<KeyConfig KeyLen=\"\"/>").KeyLen, analysed<Key>(kKey, "150", "").KeyLen}),
+      (Numbers{0, -1}));
   void* result = nullptr;
   expectTold("session/key_calls",
              {SystemEncryptMessageAnalysis("<a>", &result), SystemEncryptMessageAnalysis("<a/>", &result),

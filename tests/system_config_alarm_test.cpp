@@ -12,22 +12,20 @@ using Human = SYSTEM_CONFIG_GET_1494_PARAM;
 
 TEST_F(SystemConfigAlarmTest, FieldsStandUnderTheirNames) {
   const auto light = stored<SYSTEM_CONFIG_GET_1300_PARAM>("1301", "light_told");
-  EXPECT_EQ(light->LightVal, 3);
-  EXPECT_EQ(light->DefLightMode, -1);
-  EXPECT_EQ(light->LightModeRange[2], -1);
-  EXPECT_EQ(stored<SYSTEM_CONFIG_GET_1300_PARAM>("1300", "light_told")->LightModeRange[2], 9);
+  EXPECT_EQ((Numbers{light->LightVal, light->DefLightMode, light->LightModeRange[2],
+                     stored<SYSTEM_CONFIG_GET_1300_PARAM>("1300", "light_told")->LightModeRange[2]}),
+            (Numbers{3, -1, -1, 9}));
   const auto smart = stored<SYSTEM_CONFIG_GET_1498_PARAM>("1498", "smart_detection");
   EXPECT_EQ(smart->SmartDetection1.RegionDetectionEnable, 3);
   const std::string both = "<REQUEST_PARAM ChannelId=\"9\"/>" + golden("system_config/push_offline.txt");
-  EXPECT_EQ(readBody<SYSTEM_CONFIG_GET_2511_PARAM>("2511", both)->ChannelId, 3);
-  EXPECT_EQ(readBody<SYSTEM_CONFIG_GET_2511_PARAM>("2511", both)->PushOfflineEnable, 1);
+  EXPECT_EQ((Numbers{readBody<SYSTEM_CONFIG_GET_2511_PARAM>("2511", both)->ChannelId,
+                     readBody<SYSTEM_CONFIG_GET_2511_PARAM>("2511", both)->PushOfflineEnable}),
+            (Numbers{3, 1}));
 
   const Human human = *stored<Human>("1497", "human_alarm");
-  EXPECT_EQ(human.LightAlarmPeriod[1].end.second, 59);
-  EXPECT_EQ(human.AlarmTimesRange[1], 9);
-  EXPECT_EQ(human.DefLightdurationRange[1], -1);
-  EXPECT_EQ(human.drawing.VideoResolution[1], 1080);
-  EXPECT_EQ(human.drawing.LineCoordinates[0].y, -360);
+  EXPECT_EQ((Numbers{human.LightAlarmPeriod[1].end.second, human.AlarmTimesRange[1], human.DefLightdurationRange[1],
+                     human.drawing.VideoResolution[1], human.drawing.LineCoordinates[0].y}),
+            (Numbers{59, 9, -1, 1080, -360}));
 }
 
 // The camera's settings hold a motion block too.
@@ -36,31 +34,21 @@ TEST_F(SystemConfigAlarmTest, MotionReadsWhatIsThere) {
   EXPECT_EQ(camera->IotAlarmStart, 4);
   EXPECT_STREQ(camera->SMTPServer, "mail");
   for (const Motion& read : {*stored<Motion>("802", "motion"), camera->motion}) {
+    EXPECT_EQ((Numbers{read.NightStartTime.hour, read.NightEndTime.second, read.WorkdayCount, read.Workday[0].Day,
+                       read.Workday[0].EndTime.minute, read.Workday[1].Day, read.Duration}),
+              (Numbers{6, 5, 1, 7, 30, -1, 10}));
     EXPECT_STREQ(read.BlockConfig, "0110");
-    EXPECT_EQ(read.NightStartTime.hour, 6);
-    EXPECT_EQ(read.NightEndTime.second, 5);
-    EXPECT_EQ(read.WorkdayCount, 1);
-    EXPECT_EQ(read.Workday[0].Day, 7);
-    EXPECT_EQ(read.Workday[0].EndTime.minute, 30);
-    EXPECT_EQ(read.Workday[1].Day, -1);
-    EXPECT_EQ(read.Duration, 10);
   }
   const auto bare = *readBody<Motion>("802", "<MotionDetectAlarm NightStartTime=\"7:5\"/>");
-  EXPECT_EQ(bare.WorkdayCount, -1);
-  EXPECT_EQ(bare.OutputEnable, -1);
-  EXPECT_EQ(bare.NightStartTime.minute, 5);
-  EXPECT_EQ(bare.NightStartTime.second, -1);
+  EXPECT_EQ((Numbers{bare.WorkdayCount, bare.OutputEnable, bare.NightStartTime.minute, bare.NightStartTime.second}),
+            (Numbers{-1, -1, 5, -1}));
   const std::string moved = "<Workday Day=\"1\"><TimeSpan Day=\"5\"/></Workday>";
   const std::string days = "<MotionDetectAlarm><EnableTimeList>" + moved + "</EnableTimeList></MotionDetectAlarm>";
   EXPECT_EQ(readBody<Motion>("802", days)->Workday[0].Day, 5);
 }
 
 TEST_F(SystemConfigAlarmTest, WorkdaysStayInTheirTable) {
-  const std::string text = golden("system_config/motion.txt");
-  const std::size_t day = text.find("<Workday ");
-  const std::size_t end = text.find("</EnableTimeList>");
-  expectBounded({kConfigType, "822", kAsk, 8, text.substr(0, day), text.substr(day, end - day), text.substr(end)},
-                &Motion::WorkdayCount);
+  expectBoundedList("822", kAsk, 8, "motion_two_days", "<Workday ", &Motion::WorkdayCount);
 }
 
 TEST_F(SystemConfigAlarmTest, ListsAreCutToTheirBuffer) {
@@ -71,11 +59,9 @@ TEST_F(SystemConfigAlarmTest, ListsAreCutToTheirBuffer) {
   for (SYSTEM_CONFIG_POINT& point : record.drawing.LineCoordinates) point = {1920, 1080};
   EXPECT_EQ(written("1494", kAnswer, record), golden("system_config/human_alarm_cut.txt"));
   const Human read = *stored<Human>("1494", "human_alarm_cut");
-  EXPECT_EQ(read.LightAlarmPeriodNum, INT32_MAX);
-  EXPECT_EQ(read.LightAlarmPeriod[8].end.second, 100);
+  EXPECT_EQ((Numbers{read.LightAlarmPeriodNum, read.LightAlarmPeriod[8].end.second}), (Numbers{INT32_MAX, 100}));
   EXPECT_EQ(read.LightAlarmPeriod[9].start.hour, -1) << "the entry that was cut";
-  EXPECT_EQ(read.drawing.LineCoordinates[20].y, 1080);
-  EXPECT_EQ(read.drawing.LineCoordinates[21].x, -1);
+  EXPECT_EQ((Numbers{read.drawing.LineCoordinates[20].y, read.drawing.LineCoordinates[21].x}), (Numbers{1080, -1}));
   record.drawing.LineCoordinatesNum = INT32_MIN;
   EXPECT_NE(written("1494", kAnswer, record).find("\nLineCoordinates=\"\"\n"), std::string::npos);
 }
@@ -89,11 +75,9 @@ TEST_F(SystemConfigAlarmTest, ListsAreReadUpToTheirTableWhateverTheyHold) {
   const Human full =
       *readBody<Human>("1495", "<HumanAlarmConfig><LightAlarm AlarmPeriodNum=\"40\" AlarmPeriod=\"" + periods +
                                    "\"/><DrawLine LineCoordinates=\"" + points + "\"/></HumanAlarmConfig>");
-  EXPECT_EQ(full.LightAlarmPeriodNum, 40);
-  EXPECT_EQ(full.LightAlarmPeriod[11].end.second, 11);
-  EXPECT_EQ(full.AudioAlarmEnable, -1);
-  EXPECT_EQ(full.drawing.LineCoordinates[31].x, 31);
-  EXPECT_EQ(full.drawing.ShowAlarmCount, -1);
+  EXPECT_EQ((Numbers{full.LightAlarmPeriodNum, full.LightAlarmPeriod[11].end.second, full.AudioAlarmEnable,
+                     full.drawing.LineCoordinates[31].x, full.drawing.ShowAlarmCount}),
+            (Numbers{40, 11, -1, 31, -1}));
 
   for (const char* broken : {"[[[[3,4", "[,],[a,b],[3],[5,6", "[3;4],", "3,4", "[]", ""}) {
     const std::string body = std::string("<HumanAlarmConfig><DrawLine LineCoordinates=\"") + broken;

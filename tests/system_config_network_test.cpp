@@ -9,22 +9,20 @@ class SystemConfigNetworkTest : public WireTest {};
 
 TEST_F(SystemConfigNetworkTest, FieldsStandUnderTheirNames) {
   const auto camera = stored<SYSTEM_CONFIG_GET_300_PARAM>("300", "camera_network");
-  EXPECT_EQ(camera->AllNetConnectEnable, 1);
-  EXPECT_EQ(camera->Wire.Address.DHCP, 5);
+  EXPECT_EQ((Numbers{camera->AllNetConnectEnable, camera->Wire.Address.DHCP}), (Numbers{1, 5}));
   EXPECT_STREQ(camera->GB28181.DevID, "w");
   for (const char* code : {"2000", "2020"}) {
     EXPECT_EQ(stored<SYSTEM_CONFIG_GET_2000_PARAM>(code, "recorder_network")->Enable, 5);
     const auto both = stored<SYSTEM_CONFIG_GET_2000_PARAM>(code, "recorder_network_two_lans");
-    EXPECT_STREQ(both->LAN1_MacAddress, "M");
     EXPECT_EQ(both->LAN1_ConflictSelfAda, 9);
+    EXPECT_STREQ(both->LAN1_MacAddress, "M");
   }
 }
 
 TEST_F(SystemConfigNetworkTest, OnlyTheElementsOfAMessageAreRead) {
   const auto lanOnly = readBody<SYSTEM_CONFIG_GET_300_PARAM>(
       "300", "<NetworkConfig><LANConfig DHCP=\"1\"/></NetworkConfig><P2PConfig Enable=\"1\"/>");
-  EXPECT_EQ(lanOnly->Wire.Address.DHCP, -1);
-  EXPECT_EQ(lanOnly->P2P.Enable, -1);
+  EXPECT_EQ((Numbers{lanOnly->Wire.Address.DHCP, lanOnly->P2P.Enable}), (Numbers{-1, -1}));
   for (const char* code : {"2005", "2025"}) {
     const std::string body = "<LANConfig DHCP=\"1\"/><NetworkServerConfig Enable=\"5\"/>";
     EXPECT_EQ(readBody<SYSTEM_CONFIG_GET_2000_PARAM>(code, body)->Enable, -1);
@@ -48,10 +46,10 @@ TEST_F(SystemConfigNetworkTest, CameraLanNeedsAnAddressToBeWritten) {
 
 TEST_F(SystemConfigNetworkTest, SipAccessNumbersItsDevices) {
   const auto record = stored<SYSTEM_CONFIG_GET_2015_PARAM>("2015", "sip_access");
-  EXPECT_EQ(record->ChannelCount, -1);
+  EXPECT_EQ(
+      (Numbers{record->ChannelCount, record->Channels[0].SipDeviceReport, record->AlarmInputs[63].SipDeviceReport}),
+      (Numbers{-1, 1, 0}));
   EXPECT_STREQ(record->Channels[1].SipDeviceID, "q");
-  EXPECT_EQ(record->Channels[0].SipDeviceReport, 1);
-  EXPECT_EQ(record->AlarmInputs[63].SipDeviceReport, 0);
   record->ChannelCount = 2;
   EXPECT_EQ(written("2015", kAnswer, *record), golden("system_config/sip_access.txt"));
   EXPECT_EQ(written("2035", kAsk, *record), golden("system_config/sip_access.txt"));
@@ -74,10 +72,9 @@ TEST_F(SystemConfigNetworkTest, SipTablesAreNeverLeft) {
   const std::string ones(100, '1');
   const auto full = readBody<SYSTEM_CONFIG_GET_2015_PARAM>(
       "2035", "<GB28181Config ch64_SipDeviceID=\"z\" ch65_SipDeviceID=\"o\" ch_SipDeviceReport=\"" + ones + "\"/>");
+  EXPECT_EQ((Numbers{full->Channels[63].SipDeviceReport, full->AlarmInputs[0].SipDeviceReport, full->AlarmInputIDNum}),
+            (Numbers{1, -1, -1}));
   EXPECT_STREQ(full->Channels[63].SipDeviceID, "z");
-  EXPECT_EQ(full->Channels[63].SipDeviceReport, 1);
-  EXPECT_EQ(full->AlarmInputs[0].SipDeviceReport, -1);
-  EXPECT_EQ(full->AlarmInputIDNum, -1);
   const auto brief = readBody<SYSTEM_CONFIG_GET_2015_PARAM>(
       "2035", "<GB28181Config ch_SipDeviceReport=\"1\" other=\"" + ones + "\"/>");
   for (int i = 0; i < 64; ++i) EXPECT_EQ(brief->Channels[i].SipDeviceReport, i == 0 ? 1 : 0);

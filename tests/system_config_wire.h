@@ -38,6 +38,12 @@ Result<Record> stored(const std::string& code, const std::string& file) {
   return readBody<Record>(code, golden("system_config/" + file + ".txt"));
 }
 
+template <class Record>
+void expectBoundedList(const std::string& code, int direction, int capacity, const std::string& file,
+                       const std::string& element, std::int32_t Record::*count) {
+  expectBounded(kConfigType, code, direction, WireList("system_config/" + file, element), capacity, count);
+}
+
 // Reads a body, and expects the record to give the same text again.
 template <class Record>
 Result<Record> bothWays(const std::string& code, int direction, const std::string& body) {
