@@ -26,9 +26,8 @@ TEST_F(ReverseAudioTest, StartNamesTheFormatDifferentlyInTheAnswer) {
   auto read = analysed<Start>(kType, "544", answer);
   EXPECT_EQ(read.SampleRate, -1);  // lost: it is read under another spelling than it is written
   read.SampleRate = 8000;
-  EXPECT_EQ((Numbers{std::memcmp(&read, &record, sizeof read),
-                     analysed<Start>(kType, "544", "<RA_START_RESPONSE SampleRate=\"7\"/>").SampleRate}),
-            (Numbers{0, 7}));
+  EXPECT_EQ(std::memcmp(&read, &record, sizeof read), 0);
+  EXPECT_EQ(analysed<Start>(kType, "544", "<RA_START_RESPONSE SampleRate=\"7\"/>").SampleRate, 7);
   set(record.Sessionid, "s");
   read = analysed<Start>(kType, "CMD_RA_START", answer + golden("live/talk.txt"));
   EXPECT_EQ(std::memcmp(&read, &record, sizeof read), 0);

@@ -41,7 +41,7 @@ TEST_F(SystemLogTest, RequestNamesAFileOrACommand) {
   EXPECT_EQ(countedBehind(record, 2), 0U);
   const std::string piece = golden("session/log_piece.txt");
   record = analysed<Log>(kLog, "1", piece + "<cmd>ls</cmd>");
-  EXPECT_EQ(countedBehind(record, 0), 1004);
+  EXPECT_EQ(countedBehind(record, 0), 1004U);
   EXPECT_STREQ(record.Cmd, "");
   set(record.Cmd, "ls");
   EXPECT_EQ(bodyOf(kLog, "1", 0, &record), piece);
