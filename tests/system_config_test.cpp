@@ -1,82 +1,74 @@
 #include "kov_protocol/system_config.h"
 
-#include "wire.h"
+#include <sstream>
+
+#include "config/alarm.h"
+#include "config/channel.h"
+#include "config/general.h"
+#include "config/media.h"
+#include "config/network.h"
+#include "config/recorder.h"
+#include "system_config_wire.h"
 
 namespace kov::test {
 namespace {
 
 class SystemConfigTest : public WireTest {};
 
-TEST_F(SystemConfigTest, DispatchersRefuseEmptyArguments) {
-  char body[8] = "?";
-  void* result = nullptr;
-  SYSTEM_CONFIG_SET_3805_PARAM record;
-  EXPECT_EQ(SystemConfigMessageCompose(&record, 0, "3805", nullptr, 8), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(SystemConfigMessageCompose(&record, 0, "3802", body, 0), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(SystemConfigMessageCompose(&record, 0, nullptr, body, 8), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(SystemConfigMessageAnalysis(nullptr, "3805", &result), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(SystemConfigMessageAnalysis("", nullptr, &result), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(SystemConfigMessageAnalysis("", "3802", nullptr), KOV_ERROR_EMPTY_ARGUMENT);
-  const std::string compose = "E SystemConfigMessageCompose deal Msg_code:";
-  const std::string analysis = "E SystemConfigMessageAnalysis deal Msg_code:";
-  const std::string end = ", put a empty Param\n";
-  EXPECT_EQ(logLines(),
-            (std::vector<std::string>{compose + "3805" + end, compose + "3802" + end, compose + "(null)" + end,
-                                      analysis + "3805" + end, analysis + "(null)" + end, analysis + "3802" + end}));
-  EXPECT_STREQ(body, "?");
-  EXPECT_EQ(SystemConfigMessageCompose(nullptr, 0, "9999", body, 8), 0);
-  EXPECT_STREQ(body, "?");
-}
-
-TEST_F(SystemConfigTest, UnknownCodesAreToldAsNumbers) {
-  char body[8] = "?";
-  void* result = nullptr;
-  const std::string xml = received("SYSTEM_CONFIG_SET_MESSAGE", "9999", "<REQUEST_PARAM/>");
-  for (const auto& [code, number] : {std::pair("abc", "0"), std::pair("9999", "9999"), std::pair("320", "320")}) {
+// A line of each message: its code, the directions that give it a text, and what it calls itself when it composes.
+std::string messagesOf(const CodeGroup& codes) {
+  std::istringstream sides(sidesOf(codes));
+  std::string lines;
+  for (const CodeRow& row : codes) {
+    std::string side;
+    sides >> side;
+    char buffer[8];
+    BodyWriter body(buffer, sizeof buffer);
     resetPlatform();
-    EXPECT_EQ(SystemConfigMessageCompose("", 0, code, body, 8), KOV_ERROR_UNKNOWN_MESSAGE);
-    EXPECT_EQ(SystemConfigMessageAnalysis(xml.c_str(), code, &result), KOV_ERROR_UNKNOWN_MESSAGE);
-    const std::string line = std::string("E SYSTEM_CONFIG_MESSAGE deal a unknow msg_cdoe : ") + number + "\n";
-    EXPECT_EQ(logLines(), (std::vector<std::string>{line, line}));
+    row.message->compose(nullptr, 0, body);
+    lines += side + " " + logLines().back();
   }
-  EXPECT_STREQ(body, "?");
-  EXPECT_EQ(result, nullptr);
+  return lines + missingOf(codes) + "\n";
 }
 
-TEST_F(SystemConfigTest, ReservedCodeSucceedsAndDoesNothing) {
+TEST_F(SystemConfigTest, EveryMessageHasItsSidesAndNames) {
+  for (const auto& [name, codes] : {std::pair("network", &kNetworkCodes),
+                                    {"media", &kMediaCodes},
+                                    {"alarm", &kAlarmCodes},
+                                    {"channel", &kChannelCodes},
+                                    {"general", &kGeneralCodes},
+                                    {"recorder", &kRecorderSettingCodes}}) {
+    EXPECT_EQ(messagesOf(*codes), golden("system_config/messages_" + std::string(name) + ".txt"));
+  }
+}
+
+TEST_F(SystemConfigTest, DispatchersTellWhatTheyRefuse) {
   char body[8] = "?";
   void* result = body;
-  for (const int direction : {0, 1}) EXPECT_EQ(SystemConfigMessageCompose("", direction, "3802", body, 8), 0);
-  EXPECT_EQ(SystemConfigMessageAnalysis("no document", "3802", &result), 0);
+  const SYSTEM_CONFIG_SET_3805_PARAM record;
+  expectTold(
+      "system_config/arguments_calls",
+      {SystemConfigMessageCompose(&record, 0, "3805", nullptr, 8),
+       SystemConfigMessageCompose(&record, 0, "3802", body, 0),
+       SystemConfigMessageCompose(&record, 0, nullptr, body, 8), SystemConfigMessageAnalysis(nullptr, "3805", &result),
+       SystemConfigMessageAnalysis("", nullptr, &result), SystemConfigMessageAnalysis("", "3802", nullptr),
+       SystemConfigMessageCompose(nullptr, 0, "9999", body, 8)});
+  std::vector<Outcome> calls;
+  for (const char* code : {"abc", "9999", "320", "3802"}) {  // 3802 is reserved: it succeeds and does nothing
+    calls.push_back(SystemConfigMessageCompose("", 1, code, body, 8));
+    calls.push_back(SystemConfigMessageAnalysis("no document", code, &result));
+  }
+  calls.push_back(analysisCode(kConfigType, "3802", "<REQUEST_PARAM/>"));
+  expectTold("system_config/codes_calls", calls);
   EXPECT_STREQ(body, "?");
   EXPECT_EQ(result, body);
-  EXPECT_EQ(analysisCode("SYSTEM_CONFIG_GET_MESSAGE", "3802", "<REQUEST_PARAM/>"), 0);
-  EXPECT_TRUE(failures().empty());
 }
 
-TEST_F(SystemConfigTest, TheCodeAloneSelectsTheMessage) {
-  SYSTEM_CONFIG_SET_3805_PARAM record;
-  record.ChannelId = 3;
-  for (const std::string type : {SYSTEM_CONFIG_GET_MESSAGE_TYPE, SYSTEM_CONFIG_SET_MESSAGE_TYPE}) {
-    const std::string body = "<REQUEST_PARAM\nChannelId=\"3\"\n/>\n";
-    EXPECT_EQ(bodyOf(type, "3805", 2, &record), body);
-    EXPECT_EQ(bodyOf(type, "3805", 3, &record), "");
-    EXPECT_EQ(analysed<SYSTEM_CONFIG_SET_3805_PARAM>(type, "3805", body).ChannelId, 3);
-  }
-}
-
-// The numbers of the queries with a bare channel are looked for in the whole text, so a mark will do.
 TEST_F(SystemConfigTest, BareChannelNumbersAreReadInQueries) {
   const std::string bare = "<REQUEST_PARAM ChannelId=7/>";
-  for (const std::string mark : {"501", "2511", "2560", "2561"}) {
-    const std::string extras = "Msg_uuid=\"" + mark + "\"\n";
-    const Analysis query = analysePayload(received(SYSTEM_CONFIG_GET_MESSAGE_TYPE, "3805", bare, extras));
-    ASSERT_EQ(query.code, 0) << mark;
-    EXPECT_EQ(static_cast<SYSTEM_CONFIG_SET_3805_PARAM*>(query.result.get())->ChannelId, 7);
-    const std::string setting = received(SYSTEM_CONFIG_SET_MESSAGE_TYPE, "3805", bare, extras);
-    EXPECT_EQ(analysePayload(setting).code, KOV_ERROR_BAD_HEADER);
-  }
-  EXPECT_EQ(analysisCode(SYSTEM_CONFIG_GET_MESSAGE_TYPE, "3805", bare), KOV_ERROR_BAD_HEADER);
+  EXPECT_EQ(readBody<SYSTEM_CONFIG_GET_501_PARAM>("501", bare)->ChannelId, 7);
+  EXPECT_EQ(readBody<SYSTEM_CONFIG_GET_2511_PARAM>("2511", bare)->ChannelId, 7);
+  EXPECT_EQ(analysisCode(SYSTEM_CONFIG_SET_MESSAGE_TYPE, "501", bare), KOV_ERROR_BAD_HEADER);
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "every_message.h"
-#include "wire.h"
+#include "trials.h"
 
 namespace kov::test {
 
@@ -30,6 +30,18 @@ Result<Record> readBody(const std::string& code, const std::string& body) {
   EXPECT_EQ(analysis.code, 0) << code << "\n" << body;
   if (analysis.result == nullptr) throw std::runtime_error("no record of " + code);
   return Result<Record>(static_cast<Record*>(analysis.result.release()));
+}
+
+// The record of wire/system_config/<file>.txt.
+template <class Record>
+Result<Record> stored(const std::string& code, const std::string& file) {
+  return readBody<Record>(code, golden("system_config/" + file + ".txt"));
+}
+
+template <class Record>
+void expectBoundedList(const std::string& code, int direction, int capacity, const std::string& file,
+                       const std::string& element, std::int32_t Record::*count) {
+  expectBounded(kConfigType, code, direction, WireList("system_config/" + file, element), capacity, count);
 }
 
 // Reads a body, and expects the record to give the same text again.

@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "every_message.h"
-#include "wire.h"
+#include "trials.h"
 
 namespace kov::test {
 namespace {
@@ -38,17 +38,15 @@ TEST_F(SystemLogTest, RequestNamesAFileOrACommand) {
   Log record;
   EXPECT_EQ(bodyOf(kLog, "1", 0, &record), "");
   set(record.Cmd, "ls");
-  EXPECT_EQ(bodyOf(kLog, "1", 2, &record), "<cmd>ls</cmd>");
   EXPECT_EQ(countedBehind(record, 2), 0U);
-  set(record.Filename, "f.log");
-  record.DataLen = 1000;
-  const std::string body = "<POS \nFilename=\"f.log\"\nXmlLen=\"-1\"\nStartPos=\"-1\"\nDataLen=\"1000\"\n/>\n";
-  EXPECT_EQ(bodyOf(SYSTEM_LOG_DATA_TYPE, "1", 0, &record), body);
+  const std::string piece = golden("session/log_piece.txt");
+  record = analysed<Log>(kLog, "1", piece + "<cmd>ls</cmd>");
   EXPECT_EQ(countedBehind(record, 0), 1004U);
+  EXPECT_STREQ(record.Cmd, "");
+  set(record.Cmd, "ls");
+  EXPECT_EQ(bodyOf(kLog, "1", 0, &record), piece);
   record.DataLen = -1;
   EXPECT_EQ(countedBehind(record, 0), 3U);
-  EXPECT_STREQ(analysed<Log>(kLog, "1", "<cmd>ls</cmd>").Cmd, "ls");
-  EXPECT_STREQ(analysed<Log>(kLog, "1", body + "<cmd>ls</cmd>").Cmd, "");
 }
 
 TEST_F(SystemLogTest, ResponseTextComesBackAsData) {
@@ -67,9 +65,9 @@ TEST_F(SystemLogTest, ResponseTextComesBackAsData) {
   EXPECT_EQ(bodyOf(kLog, "1", 9, &record), counted);
   EXPECT_EQ(countedBehind(record, 1), 11U);
   const auto read = analysed<Log>(kLog, "1", counted);
+  EXPECT_EQ((Numbers{read.RespDataLen, analysed<Log>(kLog, "1", "<RESPONSE_PARAM/><RESPONSE_DATA_LEN/>").RespDataLen}),
+            (Numbers{7, -1}));
   EXPECT_STREQ(read.Data, "out");
-  EXPECT_EQ(read.RespDataLen, 7);
-  EXPECT_EQ(analysed<Log>(kLog, "1", "<RESPONSE_PARAM/><RESPONSE_DATA_LEN/>").RespDataLen, -1);
 }
 
 // The data of a received message: a document that names `length` bytes, and `tail` behind it.
@@ -108,24 +106,17 @@ TEST_F(SystemLogTest, RawDataBehindATextOfUnknownLength) {
 }
 
 TEST_F(SystemLogTest, RefusalsAreTold) {
-  EXPECT_EQ(analysisCode(kLog, "1", " <other/>\n"), KOV_ERROR_NO_ELEMENT);
-  EXPECT_EQ(failures(), std::vector<std::string>{"E SystemLogMessageAnalysis get LockParamInfo error\n"});
-  resetPlatform();
   Log record;
   record.RespDataLen = INT32_MAX;
   char body[8] = "?";
   int extraLen = -4;
-  EXPECT_EQ(SystemLogMessageCompose(&record, 0, nullptr, 8, &extraLen), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(SystemLogMessageCompose(&record, 0, body, 8, nullptr), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(SystemLogMessageCompose(nullptr, 0, body, 8, &extraLen), 0);
+  expectTold("session/log_calls",
+             {analysisCode(kLog, "1", " <other/>\n"), SystemLogMessageCompose(&record, 0, body, 8, nullptr),
+              SystemLogMessageAnalysis("", nullptr), SystemLogMessageCompose(nullptr, 0, body, 8, &extraLen)});
   EXPECT_EQ(extraLen, -4);
   EXPECT_EQ(SystemLogMessageCompose(&record, 1, body, 8, &extraLen), 0);
   EXPECT_EQ(extraLen, INT32_MAX);
   EXPECT_STREQ(body, "<RESPON");
-  void* result = nullptr;
-  EXPECT_EQ(SystemLogMessageAnalysis(nullptr, &result), KOV_ERROR_EMPTY_ARGUMENT);
-  const std::string empty = "E SYSTEM_LOG_PARAM put a empty Param\n";
-  EXPECT_EQ(logLines(), (std::vector<std::string>{empty, empty, "E SystemLogMessageAnalysis put a empty Param\n"}));
 }
 
 TEST_F(SystemLogTest, DebugTextTravelsAsItIs) {
@@ -143,14 +134,11 @@ TEST_F(SystemLogTest, DebugTextTravelsAsItIs) {
 TEST_F(SystemLogTest, DebugTextIsCutOutOfTheDocument) {
   void* result = nullptr;
   const char* const text = "<MESSAGE_BODY>text</MESSAGE_BODY>";
-  EXPECT_EQ(DebugLogMessageAnalysis("<MESSAGE_BODY>text", 99, &result), KOV_ERROR_BAD_DOCUMENT);
-  EXPECT_EQ(DebugLogMessageAnalysis("</MESSAGE_BODY><MESSAGE_BODY>", 99, &result), KOV_ERROR_BAD_DOCUMENT);
-  EXPECT_EQ(DebugLogMessageAnalysis(text, 3, &result), KOV_ERROR_SIZE);
-  EXPECT_EQ(DebugLogMessageAnalysis(text, -1, &result), KOV_ERROR_SIZE);
-  EXPECT_EQ(DebugLogMessageAnalysis(text, 9, nullptr), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(logLines(), (std::vector<std::string>{"E Error: iBufLen(3) small than len(4)\n",
-                                                  "E Error: iBufLen(0) small than len(4)\n",
-                                                  "E DebugLogMessageAnalysis put a empty Param\n"}));
+  expectTold(
+      "session/debug_calls",
+      {DebugLogMessageAnalysis("<MESSAGE_BODY>text", 99, &result),
+       DebugLogMessageAnalysis("</MESSAGE_BODY><MESSAGE_BODY>", 99, &result), DebugLogMessageAnalysis(text, 3, &result),
+       DebugLogMessageAnalysis(text, -1, &result), DebugLogMessageAnalysis(text, 9, nullptr)});
   EXPECT_EQ(result, nullptr);
   EXPECT_EQ(DebugLogMessageAnalysis(text, 4, &result), 0);
   EXPECT_STREQ(static_cast<DBG_CMD_PARAM*>(result)->Text, "text");
