@@ -96,21 +96,20 @@ TEST_F(LiveStreamTest, TellsWhatItRefusesButNotBadText) {
 
 TEST_F(LiveStreamTest, HeaderAttributesStayInTheirBuffer) {
   const Start record = arrived("<TRANS_PARAM StreamID=\"7\"/>");
-  const auto extras = [&record](int size, int length, std::size_t room) {
+  const auto extras = [&record](int size, int length, std::size_t room, int expected = 0) {
     const std::unique_ptr<char[]> buffer(new char[room]);
     std::memcpy(buffer.get(), "x\n", 3);
     char body[64] = "";
-    EXPECT_EQ(LiveStreamMessageCompose(&record, 1, "1062", body, sizeof body, buffer.get(), size, length), 0);
-    EXPECT_EQ(std::string(body).substr(0, 12), "<TRANS_PARAM");
+    EXPECT_EQ(LiveStreamMessageCompose(&record, 1, "1062", body, sizeof body, buffer.get(), size, length), expected);
+    EXPECT_EQ(std::string(body).substr(0, 12), expected == 0 ? "<TRANS_PARAM" : "");
     return std::string(buffer.get());
   };
   const std::size_t exact = kNumbers.size() + 3;
   const int size = static_cast<int>(exact);
   EXPECT_EQ(extras(size, 2, exact), "x\n" + kNumbers);
   EXPECT_EQ(extras(size - 1, 2, exact - 1), "x\n" + kNumbers.substr(0, kNumbers.find("StreamNum")));
-  for (const int length : {-1, 3, INT32_MAX}) EXPECT_EQ(extras(3, length, 3), "x\n");
-  EXPECT_EQ(extras(-1, 2, 3), "x\n");
-  EXPECT_EQ(extras(size, -1, exact), "x\n");
+  for (const int length : {-1, 3, INT32_MAX}) EXPECT_EQ(extras(3, length, 3, KOV_ERROR_EMPTY_ARGUMENT), "x\n");
+  EXPECT_EQ(extras(-1, 2, 3, KOV_ERROR_EMPTY_ARGUMENT), "x\n");
   char body[8];
   EXPECT_EQ(LiveStreamMessageCompose(&record, 1, "1062", body, sizeof body, nullptr, 256, 0), 0);
 }
