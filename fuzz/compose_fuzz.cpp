@@ -20,10 +20,12 @@ using Block = std::unique_ptr<char[]>;
 // How the input becomes a record: laid over the defaults, or repeated over all of it.
 enum class Filling : unsigned char { OverDefaults, Repeated, kMaxValue = Repeated };
 
-void fill(char* memory, std::size_t size, const std::string& bytes, Filling filling) {
+void fill(char* memory, std::size_t size, const Text& bytes, Filling filling) {
   if (bytes.empty()) return;
   const std::size_t end = filling == Filling::Repeated ? size : std::min(size, bytes.size());
-  for (std::size_t at = 0; at < end; at += bytes.size()) bytes.copy(memory + at, end - at);
+  for (std::size_t at = 0; at < end; at += bytes.size()) {
+    std::memcpy(memory + at, bytes.data(), std::min(bytes.size(), end - at));
+  }
 }
 
 // The block that the pointer of a record must name, of exactly the size that its record says; of size 0 when it may be
@@ -45,7 +47,7 @@ void point(const Trial& trial, void* record, void* extra) {
   }
 }
 
-Block newRecord(const Trial& trial, const std::string& bytes, Filling filling) {
+Block newRecord(const Trial& trial, const Text& bytes, Filling filling) {
   Block record(new char[trial.record.size]);
   trial.record.setDefaults(record.get());
   fill(record.get(), trial.record.size, bytes, filling);
@@ -59,7 +61,7 @@ Block newRecord(const Trial& trial, const std::string& bytes, Filling filling) {
 void composeBody(const Trial& trial, const void* record, int direction, int size) {
   const Block body(new char[static_cast<std::size_t>(size)]);
   body[0] = '\0';
-  trial.table->compose(record, direction, trial.code.c_str(), body.get(), size);
+  trial.table->compose(record, direction, trial.code, body.get(), size);
   const char* const end = static_cast<const char*>(std::memchr(body.get(), '\0', static_cast<std::size_t>(size)));
   if (end == nullptr) std::abort();
   checkInitialised(body.get(), static_cast<std::size_t>(end - body.get()));
@@ -82,9 +84,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* input, std::size_t siz
   int key = 0;
   const Coding coding = {choices.ConsumeIntegralInRange<int>(-2, 1), choices.ConsumeBool() ? &key : nullptr};
   const bool withExtra = choices.ConsumeBool();
-  const std::string bytes = choices.ConsumeRemainingBytesAsString();
+  Text bytes = choices.ConsumeRemainingBytes<char>();
   if (trial.record.size == 0) {
-    composeAndRelay(trial, bytes.c_str(), direction, coding, outSize);
+    bytes.push_back('\0');  // any record will do that is not null
+    composeAndRelay(trial, bytes.data(), direction, coding, outSize);
     return 0;
   }
   const Block record = newRecord(trial, bytes, filling);

@@ -18,6 +18,7 @@
 #include <kov_protocol/system_searchipc.h>
 #include <kov_protocol/user_auth.h>
 
+#include <algorithm>
 #include <cstring>
 
 #include "trials.h"
@@ -62,32 +63,44 @@ const Dispatcher* dispatcherOf(const Trial& trial) {
 }
 
 // What stands between the tags of a whole document, so that documents serve as bodies, too.
-std::string bodyIn(const std::string& text) {
-  constexpr char kOpening[] = "<MESSAGE_BODY>";
+std::string_view bodyIn(std::string_view text) {
+  constexpr std::string_view kOpening = "<MESSAGE_BODY>";
   const std::size_t begin = text.find(kOpening);
   const std::size_t end = text.rfind("</MESSAGE_BODY>");
-  if (begin == std::string::npos || end == std::string::npos || end < begin) return text;
-  return text.substr(begin + sizeof kOpening - 1, end - begin - sizeof kOpening + 1);
+  if (begin == text.npos || end == text.npos || end < begin + kOpening.size()) return text;
+  return text.substr(begin + kOpening.size(), end - begin - kOpening.size());
 }
 
-std::string enveloped(const Trial& trial, const std::string& body) {
-  const std::string cmd = trial.cmd == nullptr ? "" : std::string("<!--") + trial.cmd + "-->";
-  return "<XML_ZANTIR>\n<MESSAGE_HEADER Msg_type=\"" + std::string(trial.type) + "\" Msg_code=\"" + trial.code +
-         "\" />\n<MESSAGE_BODY>" + cmd + body + "</MESSAGE_BODY>\n</XML_ZANTIR>";
+Text enveloped(const Trial& trial, std::string_view body) {
+  Text document;
+  append(document, "<XML_ZANTIR>\n<MESSAGE_HEADER Msg_type=\"");
+  append(document, trial.type);
+  append(document, "\" Msg_code=\"");
+  append(document, trial.code);
+  append(document, "\" />\n<MESSAGE_BODY>");
+  if (trial.cmd != nullptr) {  // its family looks for the name anywhere
+    append(document, "<!--");
+    append(document, trial.cmd);
+    append(document, "-->");
+  }
+  append(document, body);
+  append(document, "</MESSAGE_BODY>\n</XML_ZANTIR>");
+  return document;
 }
 
-void analyseByDispatcher(const Trial& trial, const std::string& document, int length) {
+void analyseByDispatcher(const Trial& trial, const Text& document, int lengthError) {
   const std::unique_ptr<char[]> exact(new char[document.size() + 1]);
-  std::memcpy(exact.get(), document.c_str(), document.size() + 1);
+  std::copy(document.begin(), document.end(), exact.get());
+  exact[document.size()] = '\0';
   const char* const xml = exact.get();
-  const char* const code = trial.code.c_str();
+  const int length = static_cast<int>(std::strlen(xml)) + lengthError;
   void* result = nullptr;
   if (const Dispatcher* const dispatcher = dispatcherOf(trial)) {
-    if (dispatcher->byCode != nullptr) dispatcher->byCode(xml, code, &result);
+    if (dispatcher->byCode != nullptr) dispatcher->byCode(xml, trial.code, &result);
     if (dispatcher->byText != nullptr) dispatcher->byText(xml, &result);
     if (dispatcher->byLength != nullptr) dispatcher->byLength(xml, length, &result);
   } else if (std::strcmp(trial.type, "MEDIA_DATA_MESSAGE") == 0) {
-    MediaDataMessageAnalysis(xml, code, length, &result);
+    MediaDataMessageAnalysis(xml, trial.code, length, &result);
   }
   const Result owner(result);
   if (result == nullptr) return;
@@ -95,9 +108,11 @@ void analyseByDispatcher(const Trial& trial, const std::string& document, int le
   relay(headerOf(trial), result);
 }
 
-void analyseByEntry(const Trial& trial, const std::string& body, const std::string& tail) {
+void analyseByEntry(const Trial& trial, std::string_view body, std::string_view tail) {
+  Text payload = enveloped(trial, body);
+  append(payload, tail);
   KOV_PROTOCOL_HEADER header;
-  const Result result = analyse(enveloped(trial, body) + tail, {}, header);
+  const Result result = analyse(payload, {}, header);
   if (result != nullptr) relay(header, result.get());
 }
 
@@ -117,13 +132,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* input, std::size_t siz
   const Way way = choices.ConsumeEnum<Way>();
   const std::size_t tailLength = choices.ConsumeIntegralInRange<std::size_t>(0, 1100);
   const int lengthError = choices.ConsumeIntegralInRange<int>(-2, 1);
-  const std::string text = choices.ConsumeRemainingBytesAsString();
+  const Text rest = choices.ConsumeRemainingBytes<char>();
+  const std::string_view text = view(rest);
   if (way == Way::BodyByEntry) {
     const std::size_t tail = text.size() - std::min(tailLength, text.size());
     analyseByEntry(trial, bodyIn(text.substr(0, tail)), text.substr(tail));
-    return 0;
+  } else if (way == Way::BodyByDispatcher) {
+    analyseByDispatcher(trial, enveloped(trial, bodyIn(text)), lengthError);
+  } else {
+    analyseByDispatcher(trial, rest, lengthError);
   }
-  const std::string document = way == Way::DocumentByDispatcher ? text : enveloped(trial, bodyIn(text));
-  analyseByDispatcher(trial, document, static_cast<int>(std::strlen(document.c_str())) + lengthError);
   return 0;
 }

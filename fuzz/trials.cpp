@@ -13,8 +13,10 @@
 #include <malloc.h>
 
 #include <algorithm>
+#include <charconv>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 
 #if defined(__has_feature)
 #if __has_feature(memory_sanitizer)
@@ -42,7 +44,9 @@ void addCodes(const FamilyRow& family, std::vector<Trial>& trials) {
   const CodeTable& table = *family.family->codes;
   for (std::size_t i = 0; i < table.groupCount(); ++i) {
     for (const CodeRow& row : table.group(i)) {
-      trials.push_back({family.msgType, std::to_string(row.code), recordOf(row), nullptr, &table});
+      Trial trial = {family.msgType, {}, recordOf(row), nullptr, &table};
+      std::to_chars(trial.code, std::end(trial.code) - 1, row.code);
+      trials.push_back(trial);
     }
   }
 }
@@ -86,7 +90,7 @@ std::vector<Trial> collect() {
   // A family that is forgotten above would never be tried.
   for (const FamilyRow& family : families()) {
     const auto isOf = [&](const Trial& trial) {
-      const FamilyRow* const row = findFamily(trial.type, std::strlen(trial.type), trial.code.c_str());
+      const FamilyRow* const row = findFamily(trial.type, std::strlen(trial.type), trial.code);
       return row != nullptr && row->family == family.family;
     };
     if (std::none_of(trials.begin(), trials.end(), isOf)) std::abort();
@@ -104,7 +108,7 @@ const std::vector<Trial>& everyTrial() {
 KOV_PROTOCOL_HEADER headerOf(const Trial& trial) {
   KOV_PROTOCOL_HEADER header;
   std::memcpy(header.Msg_type, trial.type, std::strlen(trial.type));
-  trial.code.copy(header.Msg_code, sizeof header.Msg_code - 1);
+  std::memcpy(header.Msg_code, trial.code, sizeof trial.code);
   return header;
 }
 
@@ -118,7 +122,7 @@ void checkBlock(const void* block) {
   checkInitialised(block, malloc_usable_size(const_cast<void*>(block)));  // what was asked for, with a sanitizer
 }
 
-std::string compose(const KOV_PROTOCOL_HEADER& header, const void* record, int direction, Coding coding, int size) {
+Text compose(const KOV_PROTOCOL_HEADER& header, const void* record, int direction, Coding coding, int size) {
   const std::unique_ptr<char[]> out(new char[static_cast<std::size_t>(size)]);
   const int length = KovProtocolXMLCompose(&header, record, direction, coding.mode, coding.key, out.get(), size);
   if (length <= 0) return {};
@@ -128,13 +132,13 @@ std::string compose(const KOV_PROTOCOL_HEADER& header, const void* record, int d
   const std::size_t written = static_cast<std::size_t>(std::min(length, size));
   checkInitialised(out.get(), written);
   const std::size_t skip = bare ? 0 : KOV_FRAME_HEADER_SIZE;
-  return {out.get() + skip, written - skip};
+  return {out.get() + std::min(skip, written), out.get() + written};
 }
 
-Result analyse(const std::string& payload, Coding coding, KOV_PROTOCOL_HEADER& header) {
+Result analyse(const Text& payload, Coding coding, KOV_PROTOCOL_HEADER& header) {
   if (payload.empty()) return nullptr;
   const std::unique_ptr<char[]> exact(new char[payload.size()]);
-  payload.copy(exact.get(), payload.size());
+  std::memcpy(exact.get(), payload.data(), payload.size());
   void* result = nullptr;
   const int code = KovProtocolMSGAnalysisStart(exact.get(), static_cast<int>(payload.size()), coding.mode, coding.key,
                                                &header, &result);
