@@ -78,6 +78,9 @@ TEST_F(AnalysisEntry, RefusesInvalidInput) {
     EXPECT_EQ(KovProtocolMSGAnalysisStart(payload, length, -1, nullptr, &header, &result), KOV_ERROR_EMPTY_ARGUMENT);
   }
   EXPECT_EQ(logLines(), std::vector<std::string>(6, "E KovProtocolXMLAnalysis Invaild Input Param\n"));
+  // Twice this length is beyond any work block, so the payload is not even looked at.
+  EXPECT_EQ(KovProtocolMSGAnalysisStart(payload, INT_MAX, 0, nullptr, &header, &result), KOV_ERROR_NO_MEMORY);
+  EXPECT_EQ(logLines().back(), "E KovProtocolMalloc faile!!\n");
 }
 
 TEST_F(AnalysisEntry, UnreadableDocumentsAndHeaders) {

@@ -8,7 +8,6 @@
 
 #include <cfloat>
 #include <climits>
-#include <clocale>
 #include <cstdlib>
 #include <string>
 
