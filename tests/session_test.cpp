@@ -127,6 +127,9 @@ TEST_F(SessionTest, KeyLooksTheSameInBothDirections) {
   for (const int direction : {0, 1}) EXPECT_EQ(bodyOf(kKey, "any", direction, &record), body);
   EXPECT_EQ(analysed<Key>(kKey, "150", "<KeyConfig KeyLen=\"\"/>").KeyLen, 0);
   EXPECT_EQ(analysed<Key>(kKey, "150", "").KeyLen, -1);
+  char cut[12];
+  EXPECT_EQ(SystemEncryptMessageCompose(&record, 0, cut, sizeof cut), 0);
+  EXPECT_EQ(cut, body.substr(0, sizeof cut - 1));
 
   resetPlatform();
   void* result = nullptr;
