@@ -31,5 +31,17 @@ function(kov_test_program target directory)
   endif()
 endfunction()
 
+# The exported fillers and analysis functions, one KOV_EXPORTED(name) a line, for the test of all of them.
+file(GLOB kov_export_lists CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/cmake/exports/*.txt")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${kov_export_lists})
+set(kov_exported "")
+foreach(list IN LISTS kov_export_lists)
+  file(STRINGS "${list}" names REGEX "(_PARAM_init|_MessageAnalysis)$")
+  list(TRANSFORM names REPLACE "(.+)" "KOV_EXPORTED(\\1)\n")
+  string(APPEND kov_exported ${names})
+endforeach()
+file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/exported.inc" CONTENT "${kov_exported}")
+
 kov_test_program(kov_tests "${PROJECT_SOURCE_DIR}/tests")
 kov_test_program(kov_platform_tests "${PROJECT_SOURCE_DIR}/tests/platform")
+target_include_directories(kov_tests PRIVATE "${PROJECT_BINARY_DIR}")  # exported.inc

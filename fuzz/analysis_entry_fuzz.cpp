@@ -33,6 +33,16 @@ void relay(const KOV_PROTOCOL_HEADER& header, const void* record) {
   }
 }
 
+#ifdef KOV_PLANTED_FAULT
+// The fault that scripts/fuzz-selftest expects to be found: one byte is read behind the payload, when a message is
+// accepted with a Msg_flag that takes two steps away from those of the seeds.
+void readBehind(const char* payload, std::size_t length, const KOV_PROTOCOL_HEADER& header) {
+  if (std::strlen(header.Msg_flag) < 4) return;
+  if (std::strchr(header.Msg_flag, '!') == nullptr) return;
+  if (payload[length] == '\0') std::abort();
+}
+#endif
+
 }  // namespace
 
 int KovProtocolDecode(int, const char* data, int dataLen, char* out, int outSize, void*) {
@@ -62,6 +72,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* input, std::size_t len
   void* result = nullptr;
   const int code =
       KovProtocolMSGAnalysisStart(payload.get(), static_cast<int>(length), decodeMode, nullptr, &header, &result);
+#ifdef KOV_PLANTED_FAULT
+  if (code == KOV_OK) readBehind(payload.get(), length, header);
+#endif
   if (code == KOV_OK && result != nullptr) relay(header, result);
   KovProtocolMSGAnalysisStop(&result);
   return 0;

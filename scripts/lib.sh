@@ -45,3 +45,10 @@ build() {
 run_tests() {
   ctest --preset "$1" -j "$jobs"
 }
+
+# The seeds of the fuzz targets are the documents that the tests compose and receive; left in build/seeds.
+make_seeds() {
+  build release kov_tests
+  mkdir -p build/seeds
+  KOV_SEEDS=build/seeds build/release/kov_tests --gtest_brief=1 >/dev/null
+}

@@ -20,19 +20,28 @@ Watch& watch() {
   return instance;
 }
 
-}  // namespace
-
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+/** A block of the given throwing operator, unless it is refused. */
+template <class Allocate>
+void* watched(std::size_t size, Allocate allocate) noexcept {
   Watch& w = watch();
   if (w.active) {
     if (++w.count == w.failAt) return nullptr;
     w.bytes += size;
   }
   try {
-    return ::operator new(size);
+    return allocate(size);
   } catch (const std::bad_alloc&) {
     return nullptr;
   }
+}
+
+}  // namespace
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  return watched(size, [](std::size_t bytes) { return ::operator new(bytes); });
+}
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
+  return watched(size, [](std::size_t bytes) { return ::operator new[](bytes); });
 }
 
 namespace kov::test {

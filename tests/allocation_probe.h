@@ -1,6 +1,6 @@
 /**
  * @file allocation_probe.h
- * @brief Counts, measures and fails the blocks that the library takes with non-throwing operator new.
+ * @brief Counts, measures and fails the blocks that the library takes with non-throwing operators new.
  */
 #ifndef KOV_TESTS_ALLOCATION_PROBE_H
 #define KOV_TESTS_ALLOCATION_PROBE_H

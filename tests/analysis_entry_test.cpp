@@ -4,6 +4,7 @@
 #include <cstring>
 #include <vector>
 
+#include "allocation_probe.h"
 #include "kov_protocol/nvr_replay.h"
 #include "wire.h"
 
@@ -74,6 +75,19 @@ TEST_F(AnalysisEntry, IncompleteTextIsRefusedInSilence) {
   EXPECT_EQ(logLines(), std::vector<std::string>{});
 }
 
+// The NUL may need a copy of the text, and so do the quotes.
+TEST_F(AnalysisEntry, TextsThatCannotBeCopiedAreRefused) {
+  const std::string tight = "<XML_ZANTIR><MESSAGE_HEADER/></XML_ZANTIR>";
+  const std::string unquoted = received("SYSTEM_CONFIG_GET_MESSAGE", "501", "<REQUEST_PARAM ChannelId=3/>");
+  for (const std::string& payload : {tight, unquoted}) {
+    EXPECT_NE(analysePayload(payload).code, KOV_ERROR_NO_MEMORY);
+    AllocationProbe probe;
+    probe.failAt(1);
+    EXPECT_EQ(analysePayload(payload).code, KOV_ERROR_NO_MEMORY);
+  }
+  EXPECT_EQ(analysePayload("</XML_ZANTIR>").code, KOV_ERROR_BAD_HEADER);  // nothing stands in front of the tag
+}
+
 TEST_F(AnalysisEntry, RefusesInvalidInput) {
   char payload[] = "</XML_ZANTIR>";
   KOV_PROTOCOL_HEADER header;
@@ -85,6 +99,9 @@ TEST_F(AnalysisEntry, RefusesInvalidInput) {
     EXPECT_EQ(KovProtocolMSGAnalysisStart(payload, length, -1, nullptr, &header, &result), KOV_ERROR_EMPTY_ARGUMENT);
   }
   EXPECT_EQ(logLines(), std::vector<std::string>(6, "E KovProtocolXMLAnalysis Invaild Input Param\n"));
+  // Twice this length is beyond any work block, so the payload is not even looked at.
+  EXPECT_EQ(KovProtocolMSGAnalysisStart(payload, INT_MAX, 0, nullptr, &header, &result), KOV_ERROR_NO_MEMORY);
+  EXPECT_EQ(logLines().back(), "E KovProtocolMalloc faile!!\n");
 }
 
 TEST_F(AnalysisEntry, UnreadableDocumentsAndHeaders) {

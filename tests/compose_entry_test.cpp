@@ -4,6 +4,7 @@
 #include <cstring>
 #include <vector>
 
+#include "allocation_probe.h"
 #include "kov_protocol/nvr_replay.h"
 #include "kov_protocol/system_searchipc.h"
 #include "wire.h"
@@ -181,6 +182,13 @@ TEST_F(ComposeEntry, EncodersThatFailOrFillTheirCapacity) {
     EXPECT_EQ(compose(size, 0), length == size - 8 ? size : KOV_ERROR_SIZE) << length;
     EXPECT_EQ(capacity, 2 * size - 8);
   }
+}
+
+TEST_F(ComposeEntry, EncodingALargeOutputNeedsMemory) {
+  EXPECT_GT(compose(70000, 0), 0);
+  AllocationProbe probe;
+  probe.failAt(1);
+  EXPECT_EQ(compose(70000, 0), KOV_ERROR_NO_MEMORY);
 }
 
 TEST_F(ComposeEntry, BareDocumentsGiveWhatFitsAndTellTheirLength) {

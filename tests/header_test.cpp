@@ -1,7 +1,10 @@
+#include "core/header.h"
+
 #include <gtest/gtest.h>
 
 #include <cstring>
 
+#include "core/message.h"
 #include "wire.h"
 
 namespace kov::test {
@@ -37,6 +40,22 @@ TEST_F(HeaderReaders, EachHasItsOwnCodesAndLines) {
   EXPECT_EQ(lines[5], "E GetMessageHeaderEx put a empty Param\n");
   EXPECT_EQ(lines[6], "E GetMessageHeaderEx get MESSAGE_HEADER error\n");
   EXPECT_EQ(result, nullptr);
+}
+
+// An application's own reader may accept a text without handing out a root.
+TEST_F(HeaderReaders, ADocumentWithoutRootIsTold) {
+  const KovXMLParser empty;
+  KOV_PROTOCOL_HEADER header;
+  void* result = nullptr;
+  ElementReader element;
+  EXPECT_EQ(readMessageHeader(empty, header), KOV_ERROR_BAD_DOCUMENT);
+  EXPECT_EQ(readHeaderExtras(empty, &result), KOV_ERROR_BAD_DOCUMENT);
+  EXPECT_EQ(findTransparentHeader(empty, element), KOV_ERROR_BAD_DOCUMENT);
+  EXPECT_EQ(findBody("X", empty, element), KOV_ERROR_BAD_DOCUMENT);
+  EXPECT_EQ(logLines(),
+            (std::vector<std::string>{
+                "E GetMessageHeader get RootElement error\n", "E GetMessageHeaderEx get RootElement error\n",
+                "E GetTransparentHeader get RootElement error\n", "E XAnalysis get RootElement error\n"}));
 }
 
 TEST_F(HeaderReaders, AMissingAttributeLeavesItsField) {

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cfloat>
+#include <climits>
 #include <cstdlib>
 #include <sstream>
 #include <string>

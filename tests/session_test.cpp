@@ -86,6 +86,11 @@ TEST_F(SessionTest, KeyNeedsNoElement) {
   EXPECT_EQ(
       (Numbers{analysed<Key>(kKey, "150", "<KeyConfig KeyLen=\"\"/>").KeyLen, analysed<Key>(kKey, "150", "").KeyLen}),
       (Numbers{0, -1}));
+  char cut[12];
+  const Key record;
+  EXPECT_EQ(SystemEncryptMessageCompose(&record, 0, cut, sizeof cut), 0);
+  EXPECT_STREQ(cut, "<KeyConfig\n");
+  resetPlatform();
   void* result = nullptr;
   expectTold("session/key_calls",
              {SystemEncryptMessageAnalysis("<a>", &result), SystemEncryptMessageAnalysis("<a/>", &result),

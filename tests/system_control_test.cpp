@@ -149,7 +149,8 @@ TEST_F(SystemControlTest, StorageAnswerFailsAndLeavesItsRecordWithTheLastDeviceI
   }
 }
 
-// The leak checker sees whether the record that is replaced was released.
+// The leak checker sees whether the record that is replaced was released. The new one may be composed under the code
+// that it came with.
 TEST_F(SystemControlTest, StorageFormatReplacesTheStorageRecord) {
   for (const std::string& body :
        {kStorage + "<REQUEST_PARAM DevName=\"sda\"/>", "<REQUEST_PARAM DevName=\"sda\"/>" + kStorage}) {
@@ -158,6 +159,7 @@ TEST_F(SystemControlTest, StorageFormatReplacesTheStorageRecord) {
       EXPECT_EQ(read.code, 0);
       ASSERT_NE(read.result, nullptr);
       EXPECT_STREQ(static_cast<SYSTEM_CONTROL_1017_PARAM*>(read.result.get())->DevName, "sda");
+      EXPECT_EQ(bodyOf(kType, "1014", 1, read.result.get()), "<RESPONSE_PARAM\nSerialNumber=\"sda\"\n/>\n");
     }
   }
   EXPECT_EQ(failures(), Lines());

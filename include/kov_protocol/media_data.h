@@ -2,9 +2,9 @@
  * @file media_data.h
  * @brief MEDIA_DATA_MESSAGE: pieces of binary data that travel behind the document, and what asks for them.
  *
- * Msg_code is a decimal number from 1 to 8. The application sends the piece itself, DataLen bytes and an end code of 4 bytes,
- * behind the composed frame, whose length counts both. In every record an integer of -1 and an empty text are unset,
- * and the fields travel as attributes of their own name.
+ * Msg_code is a decimal number from 1 to 8. The application sends the piece itself, DataLen bytes and an end code of 4
+ * bytes, behind the composed frame, whose length counts both. In every record an integer of -1 and an empty text are
+ * unset, and the fields travel as attributes of their own name.
  *
  * Analysis needs the element POS (DeleteFaceData: DataInfo) and reads every other element of the code that is there,
  * in both directions. Bodies without POS are therefore composed, but not read back: all of codes 7 and 8, and the

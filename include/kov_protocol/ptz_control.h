@@ -112,9 +112,10 @@ typedef struct PTZ_CONTROL_PTZ_CMD_SETWATCHGUARD_PARAM {
  * GetPresetList, GetPresetListEx.
  *
  * GetPresetList answers with plain text, the number of presets and their ids, a caret behind each: "3^1^2^5^".
- * Analysis keeps that text in `list` (its first 1023 bytes) and takes the number in front as the count, up to 256. Text without a number in front leaves `count` unset. Compose writes `count` and the ids, or, while `count`
- * is unset, `list` as it stands; when that is empty too, it tells "PTZ_CONTROL_MESSAGE deal cmd : %s get the pExData is
- * NULL\n" and composes an empty body.
+ * Analysis keeps that text in `list` (its first 1023 bytes) and takes the number in front as the count, up to 256. Text
+ * without a number in front leaves `count` unset. Compose writes `count` and the ids, or, while `count` is unset,
+ * `list` as it stands; when that is empty too, it tells "PTZ_CONTROL_MESSAGE deal cmd : %s get the pExData is NULL\n"
+ * and composes an empty body.
  *
  * GetPresetListEx answers with the elements `preset_id` and `name`, each a text with a caret behind each item, and
  * `guard`; `list` stays out of it.

@@ -4,7 +4,8 @@
  *
  * Both types share one space of decimal codes: the code alone selects the message. A GET message asks with nothing or
  * with REQUEST_PARAM and is answered with the setting's elements; a SET message carries them in its request and is
- * answered without a body, but for 3804, 3809 and 3810. The records stand in one header per group, which this one gathers.
+ * answered without a body, but for 3804, 3809 and 3810. The records stand in one header per group, which this one
+ * gathers.
  */
 #ifndef KOV_PROTOCOL_SYSTEM_CONFIG_H
 #define KOV_PROTOCOL_SYSTEM_CONFIG_H

@@ -41,7 +41,7 @@ KOV_API int SystemControlMessageCompose(const void *param, int direction, const 
  * 1014 runs SystemControl_GetIpcStorageCfg_MessageAnalysis() and then
  * SystemControl_StorageDeviceFormat_MessageAnalysis() on the same `result`, and returns what the second one says. The
  * answer to a storage query therefore yields KOV_ERROR_NO_ELEMENT and leaves its SYSTEM_CONTROL_1014_PARAM in `result`;
- * a body with REQUEST_PARAM yields 0 and a SYSTEM_CONTROL_1017_PARAM.
+ * a body with REQUEST_PARAM yields 0 and a SYSTEM_CONTROL_1017_PARAM, in a block with room for the other record.
  * @param result receives a record that the caller owns and hands to KovProtocolMSGAnalysisStop(), for 1014 after a
  *   failure too; otherwise untouched on failure, but null when the allocation failed
  * @return 0, the two codes of SystemControlMessageCompose(), or those of the message's own function

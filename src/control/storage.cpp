@@ -7,6 +7,8 @@ namespace kov {
 namespace {
 
 static_assert(sizeof(SYSTEM_CONTROL_1014_PARAM) == 252);
+static_assert(sizeof(SYSTEM_CONTROL_1017_PARAM) == sizeof SYSTEM_CONTROL_1014_DEVICE::DevName,
+              "a storage record begins with a format record");
 
 void storageAttributes(BodyIo io, SYSTEM_CONTROL_1014_DEVICE& r) {
   io.attributes({{"DevName", r.DevName},
@@ -49,16 +51,12 @@ void formatStorage(BodyIo& io, SYSTEM_CONTROL_1017_PARAM& r) { io.element("REQUE
 
 constexpr Message kStorageDeviceFormat = {"SystemControl_StorageDeviceFormat_Message", request<formatStorage>, nullptr};
 
-// The formatting's record as 1014 hands it out: whoever takes it for a storage record, as compose does, stays inside.
-struct FormatWithRoom {
-  SYSTEM_CONTROL_1017_PARAM format;
-  unsigned char room[sizeof(SYSTEM_CONTROL_1014_PARAM) - sizeof(SYSTEM_CONTROL_1017_PARAM)] = {};
-};
-static_assert(sizeof(FormatWithRoom) >= sizeof(SYSTEM_CONTROL_1014_PARAM));
+// As the query's second reading, in a record that compose may take for a storage record.
+void formatInQuery(BodyIo& io, SYSTEM_CONTROL_1014_PARAM& r) {
+  io.element("REQUEST_PARAM", {{"DevName", r.Devices[0].DevName}});
+}
 
-void formatWithRoom(BodyIo& io, FormatWithRoom& r) { formatStorage(io, r.format); }
-
-constexpr Message kFormatInStorageCfg = {"SystemControl_StorageDeviceFormat_Message", request<formatWithRoom>, nullptr};
+constexpr Message kFormatInQuery = {kStorageDeviceFormat.name(), request<formatInQuery>, nullptr};
 
 // The codes of the family's storage; composeStorageCfg() and analyseStorageCfg() serve the first instead of a message.
 constexpr CodeRow kRows[] = {{1014, nullptr}, {1017, &kStorageDeviceFormat}};
@@ -70,7 +68,7 @@ int analyseBoth(const KovXMLParser& document, void** result) {
   void* storage = nullptr;
   const int stored = kGetIpcStorageCfg.analyse(document, &storage);
   if (stored == KOV_OK || stored == KOV_ERROR_NO_MEMORY) *result = storage;
-  const int formatted = kFormatInStorageCfg.analyse(document, result);
+  const int formatted = kFormatInQuery.analyse(document, result);
   if (storage != nullptr && *result != storage) std::free(storage);
   return formatted;
 }
@@ -94,7 +92,7 @@ int analyseStorageCfg(const KovXMLParser& document, void** result) { return anal
 int analyseStorageCfg(const char* xml, void** result) {
   KovXMLParser document;
   if (parseDocument(kGetIpcStorageCfg.name(), xml, document) == KOV_OK) return analyseBoth(document, result);
-  return kStorageDeviceFormat.analyse(xml, result);
+  return kFormatInQuery.analyse(xml, result);
 }
 
 }  // namespace kov

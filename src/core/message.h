@@ -88,7 +88,7 @@ class Message {
   // The same for a document that has been parsed.
   int analyse(const KovXMLParser& document, void** result) const;
 
-  const char* name() const { return name_; }
+  constexpr const char* name() const { return name_; }
   const RecordType& record() const { return record_; }
 
  private:

@@ -1,0 +1,85 @@
+// The exported functions of one line each, by the lists in cmake/exports: each must serve the record and the message
+// that its name says.
+#include <cstddef>
+#include <cstring>
+#include <map>
+
+#include "core/record.h"
+#include "kov_protocol/alarm_report.h"
+#include "kov_protocol/device_report.h"
+#include "kov_protocol/heartbeat.h"
+#include "kov_protocol/ipc_repair.h"
+#include "kov_protocol/kov_protocol.h"
+#include "kov_protocol/live_stream.h"
+#include "kov_protocol/media_data.h"
+#include "kov_protocol/nvr_internal.h"
+#include "kov_protocol/nvr_produce_test.h"
+#include "kov_protocol/nvr_replay.h"
+#include "kov_protocol/ptz_control.h"
+#include "kov_protocol/replay_control.h"
+#include "kov_protocol/reverse_audio.h"
+#include "kov_protocol/system_config.h"
+#include "kov_protocol/system_config_alarm.h"
+#include "kov_protocol/system_config_analytics.h"
+#include "kov_protocol/system_config_channel.h"
+#include "kov_protocol/system_config_detection.h"
+#include "kov_protocol/system_config_general.h"
+#include "kov_protocol/system_config_media.h"
+#include "kov_protocol/system_config_network.h"
+#include "kov_protocol/system_control.h"
+#include "kov_protocol/system_control_device.h"
+#include "kov_protocol/system_control_recorder.h"
+#include "kov_protocol/system_encrypt.h"
+#include "kov_protocol/system_log.h"
+#include "kov_protocol/system_searchipc.h"
+#include "kov_protocol/user_auth.h"
+#include "wire.h"
+
+namespace kov::test {
+namespace {
+
+// Functions that log under another one's name.
+const std::map<std::string, std::string> kToldAs = {
+    {"SystemControl_GetIpcSysVersion_MessageAnalysis", "SystemControl_SetIpcTime_MessageAnalysis"},
+    {"SystemControl_GetMediaAbality_MessageAnalysis", "SystemControl_GetDeviceType_MessageAnalysis"},
+};
+
+// What a filler sets: all of a record, but for the one that may end before its reserved word.
+template <class Record>
+constexpr std::size_t kFilled = sizeof(Record);
+template <>
+constexpr std::size_t kFilled<DEVICE_REPORT_3901_PARAM> = offsetof(DEVICE_REPORT_3901_PARAM, reserved);
+
+template <class Record>
+void check(const char* name, int (*fill)(Record*)) {
+  EXPECT_EQ(fill(nullptr), KOV_ERROR_NULL) << name;
+  const std::unique_ptr<char[]> filled(new char[sizeof(Record)]);
+  const std::unique_ptr<char[]> expected(new char[sizeof(Record)]);
+  std::memset(filled.get(), 0xAA, sizeof(Record));
+  setDefaults<Record>(expected.get());
+  EXPECT_EQ(fill(reinterpret_cast<Record*>(filled.get())), 0) << name;
+  EXPECT_EQ(std::memcmp(filled.get(), expected.get(), kFilled<Record>), 0) << name;
+}
+
+void checkTold(const std::string& name, int code) {
+  EXPECT_EQ(code, KOV_ERROR_EMPTY_ARGUMENT) << name;
+  const auto other = kToldAs.find(name);
+  const std::string told = other == kToldAs.end() ? name : other->second;
+  EXPECT_EQ(logLines(), std::vector<std::string>{"E " + told + " put a empty Param\n"}) << name;
+  resetPlatform();
+}
+
+void check(const char* name, int (*analyse)(const char*, void**)) { checkTold(name, analyse(nullptr, nullptr)); }
+void check(const char* name, int (*analyse)(const char*, int, void**)) {
+  checkTold(name, analyse(nullptr, 0, nullptr));
+}
+
+TEST(Exported, EachServesWhatItsNameSays) {
+  resetPlatform();
+#define KOV_EXPORTED(name) check(#name, name);
+#include "exported.inc"
+#undef KOV_EXPORTED
+}
+
+}  // namespace
+}  // namespace kov::test
