@@ -56,6 +56,14 @@ TEST_F(AnalysisEntry, ThePayloadIsAsItWasWhenNothingFollowsTheDocument) {
   }
 }
 
+TEST_F(AnalysisEntry, FamiliesSeeTheWholeLengthOfADocumentThatFillsThePayload) {
+  const std::string document = received("MEDIA_DATA_MESSAGE", "3", "<POS DataLen=\"0\"/>");
+  const std::string size = std::to_string(document.size());
+  EXPECT_EQ(analysePayload(document).code, KOV_ERROR_SIZE);
+  EXPECT_EQ(failures(), std::vector<std::string>{"E MediaData_IntercomData_MessageAnalysis date size error : xmllen(" +
+                                                 size + ") datalen(0) endcode(4) all(" + size + ")\n"});
+}
+
 TEST_F(AnalysisEntry, WhatAFormattingOrderYieldsUnderTheStorageCodeMayBeComposedUnderIt) {
   const std::string type = "SYSTEM_CONTROL_MESSAGE";
   const Analysis order =

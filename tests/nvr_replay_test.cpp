@@ -43,7 +43,10 @@ TEST_F(NvrReplayTest, StreamStartCarriesTheRecordTypeInHexadecimal) {
   const auto read = analysed<NVR_REPLAY_3002_PARAM>(kType, "3002", body);
   EXPECT_EQ(read.RecType, 255);
   EXPECT_EQ(read.AudioEnable, 0);
-  EXPECT_EQ(analysed<NVR_REPLAY_3002_PARAM>(kType, "3002", "<REQUEST_PARAM RecType=\"zz\"/>").RecType, -1);
+  for (const char* odd : {"zz", "1ffffff00"}) {  // no number, and one beyond 32 bits
+    const std::string asked = std::string("<REQUEST_PARAM RecType=\"") + odd + "\"/>";
+    EXPECT_EQ(analysed<NVR_REPLAY_3002_PARAM>(kType, "3002", asked).RecType, -1);
+  }
 }
 
 TEST_F(NvrReplayTest, ControlSpeedAndJump) {

@@ -90,6 +90,13 @@ TEST_F(SystemLogTest, RawDataIsTakenFromWhatWasReceived) {
   EXPECT_EQ(dataOf("3000", "\n1"), received(kLog, "1", "<POS DataLen=\"3000\"/>"));
 }
 
+TEST_F(SystemLogTest, DataWithoutSeparatorIsTheDocumentAndWhatFollows) {
+  const std::string document = received(kLog, "1", "<POS DataLen=\"3000\"/>");
+  const Analysis analysis = analysePayload(document + "\nX1");
+  ASSERT_EQ(analysis.code, 0);
+  EXPECT_STREQ(static_cast<Log*>(analysis.result.get())->Data + document.size() + 1, "X1");
+}
+
 TEST_F(SystemLogTest, RawDataBehindATextOfUnknownLength) {
   const std::string separator(4, '\0');
   const std::string file = received(kLog, "1", "<POS DataLen=\"5\"/>");
