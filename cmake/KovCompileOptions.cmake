@@ -19,6 +19,6 @@ endfunction()
 # Library code: neither exceptions nor type information, position independent for shared and static use alike.
 function(kov_library_options target)
   kov_program_options(${target})
-  target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti>)
+  target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti -fno-semantic-interposition>)
   set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
 endfunction()

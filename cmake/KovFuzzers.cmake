@@ -8,7 +8,7 @@ file(GLOB kov_fuzz_sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/fuzz/*_fuzz.
 file(GLOB kov_fuzz_common CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/fuzz/*.cpp")
 list(REMOVE_ITEM kov_fuzz_common ${kov_fuzz_sources} "")
 
-foreach(library IN ITEMS kov_number_text kov_protocol_objects kov_platform)
+foreach(library IN ITEMS kov_value_text kov_protocol_objects kov_platform)
   target_compile_options(${library} PRIVATE -fsanitize=fuzzer-no-link)
 endforeach()
 

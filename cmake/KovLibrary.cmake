@@ -6,7 +6,7 @@ file(GLOB kov_platform_sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/platform
 
 # Number texts are read alike by the codec and by the reader. Each library carries them, so that the codec does not
 # need ours when the application brings its own services.
-set(kov_shared_sources "${PROJECT_SOURCE_DIR}/platform/src/number_text.cpp")
+set(kov_shared_sources "${PROJECT_SOURCE_DIR}/platform/src/value_text.cpp")
 list(REMOVE_ITEM kov_platform_sources ${kov_shared_sources})
 
 set(kov_include "${PROJECT_SOURCE_DIR}/include")
@@ -20,9 +20,9 @@ function(kov_hidden_objects target)
   kov_library_options(${target})
 endfunction()
 
-kov_hidden_objects(kov_number_text ${kov_shared_sources})
+kov_hidden_objects(kov_value_text ${kov_shared_sources})
 kov_hidden_objects(kov_protocol_objects ${kov_sources})
-set(kov_objects $<TARGET_OBJECTS:kov_protocol_objects> $<TARGET_OBJECTS:kov_number_text>)
+set(kov_objects $<TARGET_OBJECTS:kov_protocol_objects> $<TARGET_OBJECTS:kov_value_text>)
 
 function(kov_codec target kind)
   add_library(${target} ${kind} ${kov_objects})
@@ -42,7 +42,7 @@ kov_codec(kov_protocol_static STATIC)
 set_target_properties(kov_protocol_static PROPERTIES EXPORT_NAME protocol_static)
 
 # One object per service group. A program that defines all functions of a group keeps ours out of its link.
-add_library(kov_platform STATIC ${kov_platform_sources} $<TARGET_OBJECTS:kov_number_text>)
+add_library(kov_platform STATIC ${kov_platform_sources} $<TARGET_OBJECTS:kov_value_text>)
 target_include_directories(kov_platform PUBLIC $<BUILD_INTERFACE:${kov_platform_include}>
                                                $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
 set_target_properties(kov_platform PROPERTIES EXPORT_NAME platform)

@@ -4,6 +4,7 @@
  */
 #include "allocation_probe.h"
 
+#include <algorithm>
 #include <new>
 
 namespace {
@@ -12,7 +13,7 @@ struct Watch {
   bool active = false;
   int count = 0;
   int failAt = 0;
-  std::size_t bytes = 0;
+  std::size_t largest = 0;
 };
 
 Watch& watch() {
@@ -26,7 +27,7 @@ void* watched(std::size_t size, Allocate allocate) noexcept {
   Watch& w = watch();
   if (w.active) {
     if (++w.count == w.failAt) return nullptr;
-    w.bytes += size;
+    w.largest = std::max(w.largest, size);
   }
   try {
     return allocate(size);
@@ -55,6 +56,6 @@ AllocationProbe::~AllocationProbe() { watch() = Watch{}; }
 
 void AllocationProbe::failAt(int n) { watch().failAt = watch().count + n; }
 int AllocationProbe::count() const { return watch().count; }
-std::size_t AllocationProbe::bytes() const { return watch().bytes; }
+std::size_t AllocationProbe::largest() const { return watch().largest; }
 
 }  // namespace kov::test

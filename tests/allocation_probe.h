@@ -21,7 +21,8 @@ class AllocationProbe {
   void failAt(int n);
 
   int count() const;
-  std::size_t bytes() const;
+  /** The size of the largest block. */
+  std::size_t largest() const;
 };
 
 }  // namespace kov::test

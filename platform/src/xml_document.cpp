@@ -15,12 +15,15 @@ namespace {
 /** Bytes of the text area: the text and at least one NUL, in whole words. */
 std::size_t textArea(std::size_t length) { return (length + sizeof(Word)) / sizeof(Word) * sizeof(Word); }
 
+/** Record words that suffice for messages: they take less than one and a half bytes of records per byte of text. */
+std::size_t usualWords(std::size_t length) { return length / 2 + 4 * kElementWords; }
+
 /**
  * Record words that suffice for any text of that length: the shortest closed element, `<a/>`, takes four bytes of text
- * and four words, an attribute takes four bytes and two words. Only the open ancestors may have taken fewer bytes, two
- * at least. So the block never grows, and the part of it that is not needed is never touched.
+ * and four words, an attribute takes four bytes, two words and two more for telling it from the others. Only the open
+ * ancestors may have taken fewer bytes, two at least.
  */
-std::size_t recordWords(std::size_t length) { return length + 2 * kMaxDepth; }
+std::size_t mostWords(std::size_t length) { return length + 2 * kMaxDepth; }
 
 }  // namespace
 }  // namespace kov::xml
@@ -34,15 +37,21 @@ KovXMLParser::Document::Document(const char* text, std::size_t length) noexcept
 KovXMLParser::Document* KovXMLParser::Document::parse(const char* text) noexcept {
   const std::size_t length = text == nullptr ? 0 : std::strlen(text);
   if (length == 0 || length > kov::xml::kMaxDocumentLength) return nullptr;
-  const std::size_t room = kov::xml::recordWords(length);
+  for (const std::size_t room : {kov::xml::usualWords(length), kov::xml::mostWords(length)}) {
+    Document* document = make(text, length, room);
+    if (document == nullptr) return nullptr;
+    kov::xml::Scanner scanner(document->text_, length, document->words_, room);
+    if (scanner.run()) return document;
+    document->removeUser();
+    if (!scanner.outOfRoom()) return nullptr;
+  }
+  return nullptr;
+}
+
+KovXMLParser::Document* KovXMLParser::Document::make(const char* text, std::size_t length, std::size_t room) noexcept {
   const std::size_t size = sizeof(Document) + kov::xml::textArea(length) + room * sizeof(Word);
   void* block = ::operator new(size, std::nothrow);
-  if (block == nullptr) return nullptr;
-  auto* document = new (block) Document(text, length);
-  kov::xml::Scanner scanner(document->text_, length, document->words_, room);
-  if (scanner.run()) return document;
-  document->removeUser();
-  return nullptr;
+  return block != nullptr ? new (block) Document(text, length) : nullptr;
 }
 
 void KovXMLParser::Document::removeUser() noexcept {

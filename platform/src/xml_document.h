@@ -36,51 +36,12 @@ struct ElementRecord {
   static constexpr Word kOneAttribute = 4;
 
   Word attributeCount() const { return shape / kOneAttribute; }
+  const AttributeRecord* attributes() const { return reinterpret_cast<const AttributeRecord*>(this + 1); }
+  const AttributeRecord* attributesEnd() const { return attributes() + attributeCount(); }
 };
 
-/** Compares two names; they are short, so that a call would cost more. */
-inline bool sameName(const char* own, const char* name) {
-  while (*own == *name) {
-    if (*own == '\0') return true;
-    ++own;
-    ++name;
-  }
-  return false;
-}
-
-/**
- * A name to look for among many. Its first eight bytes, the NUL of a shorter name included, are compared at once. The
- * bytes behind a shorter name of the document are loaded and masked out; the document's block goes on there.
- */
-class WantedName {
- public:
-  explicit WantedName(const char* name) noexcept {
-    unsigned char bytes[kAtOnce] = {};
-    unsigned char kept[kAtOnce] = {};
-    std::size_t length = 0;
-    while (length < kAtOnce) {
-      kept[length] = 0xFF;
-      bytes[length] = static_cast<unsigned char>(name[length]);
-      if (bytes[length++] == 0) break;
-    }
-    std::memcpy(&word_, bytes, kAtOnce);
-    std::memcpy(&mask_, kept, kAtOnce);
-    rest_ = bytes[kAtOnce - 1] != 0 ? name + kAtOnce : nullptr;
-  }
-
-  bool is(const char* own) const noexcept {
-    std::uint64_t word = 0;
-    std::memcpy(&word, own, kAtOnce);
-    return (word & mask_) == word_ && (rest_ == nullptr || sameName(own + kAtOnce, rest_));
-  }
-
- private:
-  static constexpr std::size_t kAtOnce = 8;
-
-  std::uint64_t word_;
-  std::uint64_t mask_;
-  const char* rest_;  ///< what follows the first eight bytes; null: the name ends within them
-};
+/** Most names that differ do so in their first byte, which spares the call. */
+inline bool sameName(const char* own, const char* name) { return *own == *name && std::strcmp(own, name) == 0; }
 
 constexpr Word kElementWords = sizeof(ElementRecord) / sizeof(Word);
 constexpr Word kAttributeWords = sizeof(AttributeRecord) / sizeof(Word);
@@ -108,7 +69,12 @@ struct KovXMLParser::Document {
 
   Document(const char* text, std::size_t length) noexcept;
 
-  const char* attributeElsewhere(const kov::xml::AttributeRecord* attributes, Word count, const char* name) noexcept;
+  /** A document with `room` words for records. Null when the block is not to be had. */
+  static Document* make(const char* text, std::size_t length, std::size_t room) noexcept;
+
+  const char* attributeElsewhere(const Element* owner, const char* name) noexcept;
+  const kov::xml::AttributeRecord* find(const kov::xml::AttributeRecord* from, const kov::xml::AttributeRecord* end,
+                                        const char* name) const noexcept;
   Element* find(Word from, Word end, const char* name) const noexcept;
 
   char* text_;
@@ -117,7 +83,7 @@ struct KovXMLParser::Document {
 
   // Callers look up in the order of the wire: each search starts behind the last hit and wraps round.
   const Element* attributeOwner_ = nullptr;
-  Word attributeStart_ = 0;
+  const kov::xml::AttributeRecord* attributeStart_ = nullptr;
   const Element* childOwner_ = nullptr;
   Word childStart_ = 0;
 };

@@ -4,8 +4,6 @@
  */
 #include "xml_name_set.h"
 
-#include <algorithm>
-
 namespace kov::xml {
 namespace {
 
@@ -17,11 +15,10 @@ std::size_t nameLength(const char* name, std::size_t valueDistance) {
 
 }  // namespace
 
-bool allDistinct(const char* text, Word* words, Word first, Word count, std::size_t room) noexcept {
+bool allDistinct(const char* text, Word* words, Word first, Word count) noexcept {
   constexpr std::size_t kStepsPerByte = 64;
   const Word end = first + count * kAttributeWords;
-  const std::size_t slotCount = std::min<std::size_t>(room, std::size_t{2} * count);
-  if (slotCount <= count) return false;
+  const std::size_t slotCount = std::size_t{kSlotsPerName} * count;
   Word* slots = words + end;
   std::memset(slots, 0, slotCount * sizeof(Word));
 

@@ -75,11 +75,14 @@ class NameSet {
   Word slots_[kSlots] = {};
 };
 
+/** Words that allDistinct() needs behind the records, for each of them. */
+constexpr Word kSlotsPerName = 2;
+
 /**
- * Whether `count` attribute records from word `first` on bear distinct names, told in the `room` words behind them.
- * False, too, when the search takes more steps than chance explains: such names were made to cost quadratic time.
+ * Whether `count` attribute records from word `first` on bear distinct names, told in the words behind them. False,
+ * too, when the search takes more steps than chance explains: such names were made to cost quadratic time.
  */
-bool allDistinct(const char* text, Word* words, Word first, Word count, std::size_t room) noexcept;
+bool allDistinct(const char* text, Word* words, Word first, Word count) noexcept;
 
 }  // namespace kov::xml
 

@@ -11,17 +11,13 @@
 using kov::xml::AttributeRecord;
 using kov::xml::ElementRecord;
 using kov::xml::sameName;
-using kov::xml::WantedName;
 
 /** The first element of that name from `from` along the siblings up to `end`; 0 stands behind the last sibling. */
 ElementRecord* KovXMLParser::Document::find(Word from, Word end, const char* name) const noexcept {
-  if (from == end) return nullptr;
-  auto* element = reinterpret_cast<Element*>(words_ + from);
-  if (sameName(text_ + element->name, name)) return element;
-  if (element->next == end) return nullptr;
-  for (const WantedName wanted(name); element->next != end;) {
-    element = reinterpret_cast<Element*>(words_ + element->next);
-    if (wanted.is(text_ + element->name)) return element;
+  while (from != end) {
+    auto* element = reinterpret_cast<Element*>(words_ + from);
+    if (sameName(text_ + element->name, name)) return element;
+    from = element->next;
   }
   return nullptr;
 }
@@ -29,8 +25,7 @@ ElementRecord* KovXMLParser::Document::find(Word from, Word end, const char* nam
 void* KovXMLParser::Document::firstChild(const void* parent, const char* name) noexcept {
   const auto* owner = static_cast<const Element*>(parent);
   if ((owner->shape & Element::kHasChildren) == 0) return nullptr;
-  const auto ownerIndex = static_cast<Word>(reinterpret_cast<const Word*>(owner) - words_);
-  const Word first = ownerIndex + kov::xml::kElementWords + owner->attributeCount() * kov::xml::kAttributeWords;
+  const auto first = static_cast<Word>(reinterpret_cast<const Word*>(owner->attributesEnd()) - words_);
   const Word start = owner == childOwner_ ? childStart_ : 0;
 
   Element* found = find(start, 0, name);
@@ -51,30 +46,30 @@ void* KovXMLParser::Document::nextSibling(const void* element, const char* name)
 
 const char* KovXMLParser::Document::attribute(const void* element, const char* name) noexcept {
   const auto* owner = static_cast<const Element*>(element);
-  const auto* attributes = reinterpret_cast<const AttributeRecord*>(owner + 1);
-  const Word count = owner->attributeCount();
-  if (owner != attributeOwner_) {
-    attributeOwner_ = owner;
-    attributeStart_ = 0;
-  }
-  const Word start = attributeStart_;
-  if (start < count && sameName(text_ + attributes[start].name, name)) {
-    attributeStart_ = start + 1;
-    return text_ + attributes[start].value;
-  }
-  return attributeElsewhere(attributes, count, name);
+  const AttributeRecord* next = owner == attributeOwner_ ? attributeStart_ : owner->attributes();
+  if (next == owner->attributesEnd() || !sameName(text_ + next->name, name)) return attributeElsewhere(owner, name);
+  attributeOwner_ = owner;
+  attributeStart_ = next + 1;
+  return text_ + next->value;
 }
 
-/** Searches the attributes from behind the start on and then from the first. */
-const char* KovXMLParser::Document::attributeElsewhere(const AttributeRecord* attributes, Word count,
-                                                       const char* name) noexcept {
-  const WantedName wanted(name);
-  Word at = attributeStart_;
-  for (Word tried = 0; tried < count; ++tried, ++at) {
-    if (at >= count) at = 0;
-    if (!wanted.is(text_ + attributes[at].name)) continue;
-    attributeStart_ = at + 1;
-    return text_ + attributes[at].value;
+/** Searches the attributes from the start on and then from the first. */
+const char* KovXMLParser::Document::attributeElsewhere(const Element* owner, const char* name) noexcept {
+  const AttributeRecord* const first = owner->attributes();
+  const AttributeRecord* const end = owner->attributesEnd();
+  const AttributeRecord* const start = owner == attributeOwner_ ? attributeStart_ : first;
+  const AttributeRecord* found = find(start, end, name);
+  if (found == nullptr) found = find(first, start, name);
+  if (found == nullptr) return nullptr;
+  attributeOwner_ = owner;
+  attributeStart_ = found + 1;
+  return text_ + found->value;
+}
+
+const AttributeRecord* KovXMLParser::Document::find(const AttributeRecord* from, const AttributeRecord* end,
+                                                    const char* name) const noexcept {
+  for (; from != end; ++from) {
+    if (sameName(text_ + from->name, name)) return from;
   }
   return nullptr;
 }

@@ -3,10 +3,9 @@
  * @brief The typed readers, on nothing but the parser's public operations.
  */
 #include <cstdint>
-#include <cstring>
-#include <limits>
+#include <type_traits>
 
-#include "kov_platform/number_text.h"
+#include "kov_platform/value_text.h"
 #include "kov_platform/xml_parser.h"
 
 namespace {
@@ -14,35 +13,17 @@ namespace {
 constexpr int kOk = 0;
 constexpr int kUnreadable = -1;
 
-/** Reads a number for an unsigned field: saturated, a minus sign taken modulo 2^n, as the composers write it. */
-template <typename Unsigned>
-int unsignedOf(const char* text, Unsigned* value) {
-  constexpr std::uint64_t kLargest = std::numeric_limits<Unsigned>::max();
-  bool negative = false;
-  std::uint64_t magnitude = 0;
-  if (value == nullptr || !kov::scanDecimal(text, negative, magnitude)) return kUnreadable;
-  const auto saturated = static_cast<Unsigned>(magnitude < kLargest ? magnitude : kLargest);
-  *value = negative ? static_cast<Unsigned>(0 - saturated) : saturated;
-  return kOk;
+static_assert(std::is_same_v<std::int32_t, int> && std::is_same_v<std::uint32_t, unsigned int>);
+
+/** Reads `text` into `*value` as the field reader does; without a destination nothing is readable. */
+template <typename Value>
+int readInto(bool (*read)(const char*, Value&) noexcept, const char* text, Value* value) {
+  return value != nullptr && read(text, *value) ? kOk : kUnreadable;
 }
 
-int signedOf(const char* text, int* value) {
-  static_assert(sizeof(int) == sizeof(std::int32_t), "the int fields of the protocol have 32 bits");
-  std::int32_t read = 0;
-  if (value == nullptr || !kov::scanInt(text, read)) return kUnreadable;
-  *value = read;
-  return kOk;
-}
-
-/** Copies what fits of `source`; one byte of `size` is always the terminator's. */
-int copyText(const char* source, char* text, int size) {
-  if (source == nullptr || text == nullptr || size < 1) return kUnreadable;
-  const auto room = static_cast<std::size_t>(size) - 1;
-  const void* const end = std::memchr(source, '\0', room);
-  const std::size_t length = end != nullptr ? static_cast<std::size_t>(static_cast<const char*>(end) - source) : room;
-  std::memcpy(text, source, length);
-  text[length] = '\0';
-  return kOk;
+int readTextInto(const char* text, char* field, int size) {
+  if (field == nullptr || size < 1) return kUnreadable;
+  return kov::readText(text, field, static_cast<std::size_t>(size)) ? kOk : kUnreadable;
 }
 
 /** The text of an element; null, unlike GetText(), when there is no element. */
@@ -53,39 +34,38 @@ const char* textOf(const KovXMLParser& parser, void* element) {
 }  // namespace
 
 int getXmlIntTypeParamAttribute(KovXMLParser parser, void* element, const char* name, int* value) noexcept {
-  return signedOf(parser.Attribute(element, name), value);
+  return readInto(kov::readInt, parser.Attribute(element, name), value);
 }
 
 int getXmlUIntTypeParamAttribute(KovXMLParser parser, void* element, const char* name, unsigned int* value) noexcept {
-  return unsignedOf(parser.Attribute(element, name), value);
+  return readInto<std::uint32_t>(kov::readUnsigned, parser.Attribute(element, name), value);
 }
 
 int getXmlUCharTypeParamAttribute(KovXMLParser parser, void* element, const char* name, unsigned char* value) noexcept {
-  int read = 0;
-  if (value == nullptr || signedOf(parser.Attribute(element, name), &read) != kOk) return kUnreadable;
-  if (read < 0 || read > 255) return kUnreadable;
-  *value = static_cast<unsigned char>(read);
-  return kOk;
+  return readInto(kov::readByte, parser.Attribute(element, name), value);
 }
 
 int getXmlUllTypeParamAttribute(KovXMLParser parser, void* element, const char* name,
                                 unsigned long long* value) noexcept {
-  return unsignedOf(parser.Attribute(element, name), value);
+  std::uint64_t read = 0;
+  if (value == nullptr || !kov::readUnsigned(parser.Attribute(element, name), read)) return kUnreadable;
+  *value = read;
+  return kOk;
 }
 
 int getXmlFloatTypeParamAttribute(KovXMLParser parser, void* element, const char* name, float* value) noexcept {
-  return value != nullptr && kov::floatOf(parser.Attribute(element, name), *value) ? kOk : kUnreadable;
+  return readInto(kov::readFloat, parser.Attribute(element, name), value);
 }
 
 int getXmlStringTypeParamAttribute(KovXMLParser parser, void* element, const char* name, char* text,
                                    int size) noexcept {
-  return copyText(parser.Attribute(element, name), text, size);
+  return readTextInto(parser.Attribute(element, name), text, size);
 }
 
 int getXmlIntTypeParamByGetText(KovXMLParser parser, void* element, int* value) noexcept {
-  return signedOf(textOf(parser, element), value);
+  return readInto(kov::readInt, textOf(parser, element), value);
 }
 
 int getXmlStringTypeParamByGetText(KovXMLParser parser, void* element, char* text, int size) noexcept {
-  return copyText(textOf(parser, element), text, size);
+  return readTextInto(textOf(parser, element), text, size);
 }

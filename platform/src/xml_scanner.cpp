@@ -77,6 +77,19 @@ bool isReservedTarget(const char* name, const char* end) {
   return end - name == 3 && (name[0] | 0x20) == 'x' && (name[1] | 0x20) == 'm' && (name[2] | 0x20) == 'l';
 }
 
+constexpr char kUsualDeclaration[] = "<?xml version=\"1.0\" encoding=\"GB2312\" ?>";
+constexpr std::ptrdiff_t kUsualDeclarationLength = sizeof kUsualDeclaration - 1;
+
+/** Compares word by word, which a copy that was made just now lets through without a delay. */
+bool isUsualDeclaration(const char* at) {
+  constexpr std::ptrdiff_t kWord = sizeof(std::uint64_t);
+  static_assert(kUsualDeclarationLength % kWord == 0, "compared in whole words");
+  for (std::ptrdiff_t i = 0; i < kUsualDeclarationLength; i += kWord) {
+    if (std::memcmp(at + i, kUsualDeclaration + i, kWord) != 0) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 bool Scanner::run() noexcept {
@@ -89,6 +102,11 @@ bool Scanner::run() noexcept {
   return false;
 }
 
+char* Scanner::needRoom() noexcept {
+  outOfRoom_ = true;
+  return nullptr;
+}
+
 /** Whether the '<' at `angle` may stand in element text. */
 bool Scanner::isLoneAngle(const char* angle) const noexcept {
   if constexpr (!toleratedEverywhere(Tolerance::LoneAngleIsText)) return false;
@@ -98,11 +116,7 @@ bool Scanner::isLoneAngle(const char* angle) const noexcept {
 
 /** `<?xml version=".." encoding=".." standalone=".." ?>`, the last two optional; the encoding is nobody's concern. */
 char* Scanner::xmlDeclaration(char* at) noexcept {
-  constexpr char kUsual[] = "<?xml version=\"1.0\" encoding=\"GB2312\" ?>";
-  constexpr std::size_t kUsualLength = sizeof kUsual - 1;
-  if (end_ - at > static_cast<std::ptrdiff_t>(kUsualLength) && std::memcmp(at, kUsual, kUsualLength) == 0) {
-    return at + kUsualLength;
-  }
+  if (end_ - at > kUsualDeclarationLength && isUsualDeclaration(at)) return at + kUsualDeclarationLength;
   if (std::strncmp(at, "<?xml", 5) != 0 || !isXmlBlank(at[5])) return at;
   char* next = pseudoAttribute(at + 5, "version");
   if (next == nullptr) return nullptr;
@@ -166,6 +180,7 @@ char* Scanner::markup(char* at) noexcept {
 char* Scanner::startTag(char* at) noexcept {
   const bool secondRoot = depth_ == 0 && used_ != 0;
   if (secondRoot || depth_ == kMaxDepth) return nullptr;
+  if (room_ - used_ < kElementWords) return needRoom();
   char* behind = skipName(at);
   const bool blank = isXmlBlank(*behind);
   char next = *behind;
@@ -216,6 +231,7 @@ char* Scanner::attributes(char* at, ElementRecord& element) noexcept {
   char* const text = text_;
   const char* const end = end_;
   const Word first = used_;
+  const std::size_t most = (room_ - first) / kAttributeWords;
   auto* const records = reinterpret_cast<AttributeRecord*>(words_ + first);
   Word count = 0;
   for (;; ++count) {
@@ -227,6 +243,7 @@ char* Scanner::attributes(char* at, ElementRecord& element) noexcept {
     if (name == at && count != 0 && !tolerated(Tolerance::AttributeAtQuote, text + element.name)) return nullptr;
     const AttributeText found = scanAttribute(name, end);
     if (found.quote == nullptr) return nullptr;
+    if (count == most) return needRoom();
     // Hashed before the stores that the hash's loads would have to wait for.
     const std::uint32_t hash = hashEnds(name, static_cast<std::size_t>(found.nameEnd - name));
     *found.nameEnd = '\0';
@@ -237,12 +254,25 @@ char* Scanner::attributes(char* at, ElementRecord& element) noexcept {
   }
   used_ = first + count * kAttributeWords;
   element.shape += count * ElementRecord::kOneAttribute;
-  if (count > NameSet::kCapacity && !allDistinct(text, words_, first, count, room_ - used_)) return nullptr;
-  return at;
+  if (count <= NameSet::kCapacity) return at;
+  if (room_ - used_ < std::size_t{kSlotsPerName} * count) return needRoom();
+  return allDistinct(text, words_, first, count) ? at : nullptr;
 }
 
 char* Scanner::endTag(char* at) noexcept {
   if (depth_ == 0) return nullptr;
+  const char* open = openName(depth_);
+  char* own = at;
+  for (; *open != '\0' && *own == *open; ++own) ++open;
+  if (*own == '>' && *open == '\0') {
+    --depth_;
+    return own + 1;
+  }
+  return unusualEndTag(at);
+}
+
+/** An end tag with blanks behind its name, or of another element than the innermost. */
+char* Scanner::unusualEndTag(char* at) noexcept {
   char* nameEnd = skipName(at);
   char* angle = skipBlanks(nameEnd);
   if (*angle != '>') return nullptr;

@@ -20,11 +20,14 @@ namespace kov::xml {
  */
 class Scanner {
  public:
-  /** `words` has room for the records of any text of that length. */
+  /** `words` has room for `room` words of records. */
   Scanner(char* text, std::size_t length, Word* words, std::size_t room) noexcept
       : text_(text), end_(text + length), words_(words), room_(room), names_(text, words) {}
 
   bool run() noexcept;
+
+  /** Whether run() failed only because the records need more room. */
+  bool outOfRoom() const noexcept { return outOfRoom_; }
 
  private:
   /** An open element. */
@@ -40,6 +43,7 @@ class Scanner {
   const char* openName(Word depth) noexcept { return text_ + elementAt(levels_[depth - 1].element).name; }
   bool isLoneAngle(const char* angle) const noexcept;
 
+  char* needRoom() noexcept;
   char* xmlDeclaration(char* at) noexcept;
   char* pseudoAttribute(char* at, const char* name) noexcept;
   char* characterData(char* at) noexcept;
@@ -49,6 +53,7 @@ class Scanner {
   ElementRecord& appendElement(char* name, std::size_t length) noexcept;
   char* attributes(char* at, ElementRecord& element) noexcept;
   char* endTag(char* at) noexcept;
+  char* unusualEndTag(char* at) noexcept;
   bool closeAs(const char* name) noexcept;
   char* processingInstruction(char* at) noexcept;
   char* exclamation(char* at) noexcept;
@@ -61,6 +66,7 @@ class Scanner {
   std::size_t room_;
   Word used_ = 0;   ///< words written
   Word depth_ = 0;  ///< open elements
+  bool outOfRoom_ = false;
   Level levels_[kMaxDepth];
   NameSet names_;
 };

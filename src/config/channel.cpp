@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "kov_platform/number_text.h"
+#include "kov_platform/value_text.h"
 #include "kov_protocol/system_config_channel.h"
 
 namespace kov {

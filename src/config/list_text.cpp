@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "kov_platform/number_text.h"
+#include "kov_platform/value_text.h"
 
 namespace kov {
 namespace {

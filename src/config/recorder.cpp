@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "kov_platform/number_text.h"
+#include "kov_platform/value_text.h"
 #include "kov_protocol/system_config_general.h"
 
 namespace kov {

@@ -3,8 +3,8 @@
 
 #include "control/control_messages.h"
 #include "core/exported.h"
-#include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
+#include "kov_platform/value_text.h"
 
 namespace kov {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "kov_platform/number_text.h"
+#include "kov_platform/value_text.h"
 
 namespace kov {
 namespace {
@@ -81,7 +81,8 @@ void BodyIo::attributes(Attributes attributes) {
 void BodyIo::texts(Attributes values) {
   for (const Attribute& value : values) {
     if (reading()) {
-      readText(find(value.name_), value);
+      const ElementReader found = find(value.name_);
+      if (found && !value.has(Attribute::kSkipReading)) readValue(found.text(), value);
     } else if (isWritten(value)) {
       open(value.name_, ">");
       writeValue(value, mostOf(value));
@@ -245,60 +246,41 @@ char* BodyIo::putList(char* to, const Attribute& attribute) {
 void BodyIo::read(const ElementReader& element, Attributes attributes) {
   if (!element) return;
   for (const Attribute& attribute : attributes) {
-    if (!attribute.has(Attribute::kSkipReading)) readAttribute(element, attribute);
+    if (!attribute.has(Attribute::kSkipReading)) readValue(element.attribute(attribute.name_), attribute);
   }
 }
 
-void BodyIo::readAttribute(const ElementReader& element, const Attribute& attribute) {
-  if (readRawly(attribute)) {
-    readRaw(element.attribute(attribute.name_), attribute);
-    return;
-  }
+// Stores what the text says; a text that is missing or unreadable leaves the field alone.
+void BodyIo::readValue(const char* raw, const Attribute& attribute) {
+  if (raw == nullptr) return;
   void* const field = attribute.field_;
-  const KovXMLParser& document = element.document();
+  const bool hexadecimal = attribute.conversion() == Attribute::kHexadecimal;
   switch (attribute.kind()) {
     case Kind::Int32:
-      getXmlIntTypeParamAttribute(document, element.handle(), attribute.name_, static_cast<int*>(field));
-      break;
-    case Kind::UInt32:
-      getXmlUIntTypeParamAttribute(document, element.handle(), attribute.name_, static_cast<unsigned int*>(field));
-      break;
-    case Kind::UInt8:
-      getXmlUCharTypeParamAttribute(document, element.handle(), attribute.name_, static_cast<unsigned char*>(field));
-      break;
-    case Kind::UInt64: {
-      unsigned long long value = 0;
-      if (getXmlUllTypeParamAttribute(document, element.handle(), attribute.name_, &value) == 0) {
-        store<std::uint64_t>(field, value);
+      if (hexadecimal) return readHexadecimal(raw, attribute);
+      if (!readInt(raw, *static_cast<std::int32_t*>(field)) && attribute.conversion() == Attribute::kOrZero) {
+        store(field, 0);
       }
-      break;
-    }
+      return;
+    case Kind::UInt32:
+      if (hexadecimal) return readHexadecimal(raw, attribute);
+      kov::readUnsigned(raw, *static_cast<std::uint32_t*>(field));
+      return;
+    case Kind::UInt8:
+      readByte(raw, *static_cast<std::uint8_t*>(field));
+      return;
+    case Kind::UInt64:
+      if (hexadecimal) return readHexadecimal(raw, attribute);
+      kov::readUnsigned(raw, *static_cast<std::uint64_t*>(field));
+      return;
     case Kind::Float:
-      getXmlFloatTypeParamAttribute(document, element.handle(), attribute.name_, static_cast<float*>(field));
-      break;
+      readFloat(raw, *static_cast<float*>(field));
+      return;
     case Kind::Text:
-      getXmlStringTypeParamAttribute(document, element.handle(), attribute.name_, static_cast<char*>(field),
-                                     static_cast<int>(attribute.capacity()));
-      break;
+      readText(raw, static_cast<char*>(field), attribute.capacity());
+      return;
     default:
-      break;
-  }
-}
-
-// The typed readers know decimal numbers and texts; the rest is read from the raw text.
-bool BodyIo::readRawly(const Attribute& attribute) {
-  return attribute.kind() == Kind::Int32List || attribute.kind() == Kind::UInt8List ||
-         attribute.conversion() == Attribute::kHexadecimal || attribute.conversion() == Attribute::kOrZero;
-}
-
-void BodyIo::readRaw(const char* raw, const Attribute& attribute) {
-  if (raw == nullptr) return;
-  if (attribute.conversion() == Attribute::kOrZero) {
-    store(attribute.field_, intOf(raw));
-  } else if (attribute.conversion() == Attribute::kHexadecimal) {
-    readHexadecimal(raw, attribute);
-  } else {
-    readList(raw, attribute);
+      return readList(raw, attribute);
   }
 }
 
@@ -325,32 +307,6 @@ void BodyIo::readList(const char* raw, const Attribute& attribute) {
     } else if (number >= 0 && number <= UINT8_MAX) {
       store(attribute.field_, static_cast<std::uint8_t>(number), i);
     }
-  }
-}
-
-void BodyIo::readText(const ElementReader& element, const Attribute& value) {
-  if (!element || value.has(Attribute::kSkipReading)) return;
-  if (value.kind() == Kind::Text) {
-    getXmlStringTypeParamByGetText(element.document(), element.handle(), static_cast<char*>(value.field_),
-                                   static_cast<int>(value.capacity()));
-  } else if (value.kind() == Kind::Int32 && value.conversion() != Attribute::kOrZero) {
-    getXmlIntTypeParamByGetText(element.document(), element.handle(), static_cast<int*>(value.field_));
-  } else {
-    readNumber(element.text(), value);
-  }
-}
-
-// A number of any other kind out of an element's text.
-void BodyIo::readNumber(const char* raw, const Attribute& value) {
-  if (readRawly(value)) {
-    readRaw(raw, value);
-    return;
-  }
-  bool negative = false;
-  std::uint64_t magnitude = 0;
-  if (value.kind() == Kind::UInt32 && scanDecimal(raw, negative, magnitude)) {
-    const std::uint64_t limited = std::min<std::uint64_t>(magnitude, UINT32_MAX);
-    store(value.field_, static_cast<std::uint32_t>(withSign(negative, limited)));
   }
 }
 

@@ -89,13 +89,9 @@ class BodyIo {
   static bool isWritten(const Attribute& attribute);
 
   static void read(const ElementReader& element, Attributes attributes);
-  static void readAttribute(const ElementReader& element, const Attribute& attribute);
-  static bool readRawly(const Attribute& attribute);
-  static void readRaw(const char* raw, const Attribute& attribute);
+  static void readValue(const char* raw, const Attribute& attribute);
   static void readHexadecimal(const char* raw, const Attribute& attribute);
   static void readList(const char* raw, const Attribute& attribute);
-  static void readText(const ElementReader& element, const Attribute& value);
-  static void readNumber(const char* raw, const Attribute& value);
 
   BodyWriter* writer_;     // null when reading
   ElementReader at_;       // the element whose children this cursor reads

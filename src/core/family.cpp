@@ -1,8 +1,8 @@
 #include "core/family.h"
 
 #include "core/exported.h"
-#include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
+#include "kov_platform/value_text.h"
 
 namespace kov {
 

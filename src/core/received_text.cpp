@@ -2,8 +2,8 @@
 
 #include <new>
 
-#include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
+#include "kov_platform/value_text.h"
 
 namespace kov {
 namespace {

@@ -5,8 +5,8 @@
 
 #include "core/family.h"
 #include "discovery/system_searchipc.h"
-#include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
+#include "kov_platform/value_text.h"
 
 namespace kov {
 namespace {

@@ -3,8 +3,8 @@
 
 #include "core/exported.h"
 #include "core/family.h"
-#include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
+#include "kov_platform/value_text.h"
 #include "kov_protocol_system_other_msg/nvr_internal.h"
 
 namespace kov {
@@ -38,7 +38,7 @@ void writeStreams(BodyIo& lock, NVR_INTERNAL_4001_PARAM& r) {
 
 // False when the element does not say which stream it is.
 bool readStream(const ElementReader& element, unsigned char& stream) {
-  return getXmlUCharTypeParamAttribute(element.document(), element.handle(), "Stream", &stream) == 0;
+  return readByte(element.attribute("Stream"), stream);
 }
 
 // Two elements, each into the configuration that its Stream names; checkStreams() has seen that it names one.

@@ -3,8 +3,8 @@
 
 #include "core/exported.h"
 #include "core/family.h"
-#include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
+#include "kov_platform/value_text.h"
 #include "live/live_stream.h"
 
 namespace kov {

@@ -5,8 +5,8 @@
 #include "kov_protocol/media_data.h"
 
 #include "core/family.h"
-#include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
+#include "kov_platform/value_text.h"
 #include "live/media_data.h"
 
 namespace kov {

@@ -2,8 +2,8 @@
 #include "kov_protocol/reverse_audio.h"
 
 #include "core/exported.h"
-#include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
+#include "kov_platform/value_text.h"
 #include "live/reverse_audio.h"
 
 namespace kov {

@@ -3,8 +3,8 @@
 
 #include <iterator>
 
-#include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
+#include "kov_platform/value_text.h"
 #include "playback/replay_control.h"
 
 namespace kov {

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "kov_platform/number_text.h"
+#include "kov_platform/value_text.h"
 #include "ptz/sub_command.h"
 
 namespace kov {

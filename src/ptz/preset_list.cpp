@@ -1,8 +1,8 @@
 // The preset lists: texts with a caret behind each item.
 #include <algorithm>
 
-#include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
+#include "kov_platform/value_text.h"
 #include "ptz/sub_command.h"
 
 namespace kov {

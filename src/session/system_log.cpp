@@ -5,8 +5,8 @@
 
 #include "core/exported.h"
 #include "core/message.h"
-#include "kov_platform/number_text.h"
 #include "kov_platform/services.h"
+#include "kov_platform/value_text.h"
 #include "session/system_log.h"
 
 namespace kov {
@@ -97,10 +97,7 @@ void readResponse(BodyIo& io, SYSTEM_LOG_PARAM& r) {
   if (length && length.text()[0] != '\0') r.RespDataLen = intOf(length.text());
 }
 
-void readText(BodyIo& io, SYSTEM_LOG_PARAM& r) {
-  const ElementReader& body = io.reader();
-  getXmlStringTypeParamByGetText(body.document(), body.handle(), r.Data, sizeof r.Data);
-}
+void readText(BodyIo& io, SYSTEM_LOG_PARAM& r) { kov::readText(io.reader().text(), r.Data, sizeof r.Data); }
 
 using Reader = void (*)(BodyIo& io, SYSTEM_LOG_PARAM& r);
 

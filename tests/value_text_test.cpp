@@ -1,8 +1,8 @@
 /**
- * @file number_text_test.cpp
+ * @file value_text_test.cpp
  * @brief Numbers out of text, at and beyond the limits of their types.
  */
-#include "kov_platform/number_text.h"
+#include "kov_platform/value_text.h"
 
 #include <gtest/gtest.h>
 
@@ -66,7 +66,7 @@ TEST(NumberText, ScannersMoveBehindTheNumberOrNotAtAll) {
 TEST(NumberText, FloatsAgreeWithTheCLibrary) {
   const auto expectSame = [](const std::string& text) {
     float value = 7;
-    ASSERT_TRUE(kov::floatOf(text.c_str(), value)) << text;
+    ASSERT_TRUE(kov::readFloat(text.c_str(), value)) << text;
     EXPECT_EQ(value, std::strtof(text.c_str(), nullptr)) << text;
   };
   std::istringstream words(
@@ -82,12 +82,12 @@ TEST(NumberText, FloatsRefuseWhatIsNoFiniteNumber) {
   float value = 7;
   for (const char* text : {"", " ", "-", ".", "e5", "1e", "1e+", "1.5x", "1,5", "nan", "inf", "-Infinity", "0x10",
                            "3.5e38", "-1e39", "1e999999999999999999999", "1 2"}) {
-    EXPECT_FALSE(kov::floatOf(text, value)) << text;
+    EXPECT_FALSE(kov::readFloat(text, value)) << text;
   }
-  EXPECT_FALSE(kov::floatOf((std::string(400, '9')).c_str(), value));
-  EXPECT_FALSE(kov::floatOf(nullptr, value));
+  EXPECT_FALSE(kov::readFloat((std::string(400, '9')).c_str(), value));
+  EXPECT_FALSE(kov::readFloat(nullptr, value));
   EXPECT_EQ(value, 7);
-  EXPECT_TRUE(kov::floatOf(("0." + std::string(100'000, '0') + "1e100001").c_str(), value));
+  EXPECT_TRUE(kov::readFloat(("0." + std::string(100'000, '0') + "1e100001").c_str(), value));
   EXPECT_EQ(value, 1);
 }
 

@@ -1,10 +1,11 @@
 /**
- * @file number_text.cpp
- * @brief Numbers out of received text.
+ * @file value_text.cpp
+ * @brief Values out of received text.
  */
-#include "kov_platform/number_text.h"
+#include "kov_platform/value_text.h"
 
 #include <cfloat>
+#include <cstring>
 #include <limits>
 
 namespace kov {
@@ -12,11 +13,13 @@ namespace {
 
 constexpr std::uint64_t kMaxMagnitude = std::numeric_limits<std::uint64_t>::max();
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDigit(char c) { return static_cast<unsigned char>(c) - unsigned{'0'} < 10; }
 
-/** The value of a digit of any base up to 16, or 16. */
+/** The value of a digit of that base, or a larger number. */
+template <unsigned kBase>
 unsigned digitOf(char c) {
-  if (isDigit(c)) return static_cast<unsigned>(c - '0');
+  const unsigned decimal = static_cast<unsigned char>(c) - unsigned{'0'};
+  if (kBase == 10 || decimal < 10) return decimal;
   if (c >= 'a' && c <= 'f') return static_cast<unsigned>(c - 'a') + 10;
   if (c >= 'A' && c <= 'F') return static_cast<unsigned>(c - 'A') + 10;
   return 16;
@@ -35,14 +38,49 @@ template <unsigned kBase>
 bool scanDigits(const char*& at, std::uint64_t& magnitude) {
   constexpr std::uint64_t kLastSafe = kMaxMagnitude / kBase;
   constexpr unsigned kLastDigit = kMaxMagnitude % kBase;
-  unsigned digit = digitOf(*at);
-  if (digit >= kBase) return false;
+  const char* const first = at;
   std::uint64_t sum = 0;
-  for (; digit < kBase; digit = digitOf(*++at)) {
+  for (unsigned digit; (digit = digitOf<kBase>(*at)) < kBase; ++at) {
     const bool fits = sum < kLastSafe || (sum == kLastSafe && digit <= kLastDigit);
     sum = fits ? sum * kBase + digit : kMaxMagnitude;
   }
   magnitude = sum;
+  return at != first;
+}
+
+/**
+ * Reads one to nine digits, perhaps behind a minus sign, as nearly all numbers are. Null, and nothing read, for a
+ * number that takes the general scan.
+ */
+inline const char* scanShort(const char* text, std::int32_t& value) {
+  constexpr int kMostDigits = 9;
+  const bool negative = *text == '-';
+  if (negative) ++text;
+  if (!isDigit(*text)) return nullptr;
+  std::int32_t sum = 0;
+  const char* const end = text + kMostDigits;
+  for (; isDigit(*text); ++text) {
+    if (text == end) return nullptr;
+    sum = sum * 10 + (*text - '0');
+  }
+  value = negative ? -sum : sum;
+  return text;
+}
+
+template <typename Unsigned>
+bool readModulo(const char* text, Unsigned& value) {
+  constexpr std::uint64_t kLargest = std::numeric_limits<Unsigned>::max();
+  if (text == nullptr) return false;
+  std::int32_t little = 0;
+  if (scanShort(text, little) != nullptr) {
+    value = static_cast<Unsigned>(little);
+    return true;
+  }
+  bool negative = false;
+  std::uint64_t magnitude = 0;
+  if (!scanDecimal(text, negative, magnitude)) return false;
+  const auto saturated = static_cast<Unsigned>(magnitude < kLargest ? magnitude : kLargest);
+  value = negative ? static_cast<Unsigned>(0 - saturated) : saturated;
   return true;
 }
 
@@ -119,7 +157,7 @@ bool scanHexadecimal(const char*& text, bool& negative, std::uint64_t& magnitude
   if (text == nullptr) return false;
   const char* at = text;
   const bool minus = skipSign(at);
-  const bool prefixed = at[0] == '0' && (at[1] == 'x' || at[1] == 'X') && digitOf(at[2]) < 16;
+  const bool prefixed = at[0] == '0' && (at[1] == 'x' || at[1] == 'X') && digitOf<16>(at[2]) < 16;
   if (prefixed) at += 2;
   if (!scanDigits<16>(at, magnitude)) return false;
   negative = minus;
@@ -130,11 +168,15 @@ bool scanHexadecimal(const char*& text, bool& negative, std::uint64_t& magnitude
 bool scanInt(const char*& text, std::int32_t& value) noexcept {
   constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
   constexpr std::int32_t kSmallest = std::numeric_limits<std::int32_t>::min();
-  constexpr auto kLimit = static_cast<std::uint64_t>(kLargest);
+  if (text == nullptr) return false;
+  if (const char* const behind = scanShort(text, value)) {
+    text = behind;
+    return true;
+  }
   bool negative = false;
   std::uint64_t magnitude = 0;
   if (!scanDecimal(text, negative, magnitude)) return false;
-  if (magnitude > kLimit) {
+  if (magnitude > static_cast<std::uint64_t>(kLargest)) {
     value = negative ? kSmallest : kLargest;
   } else {
     value = static_cast<std::int32_t>(magnitude);
@@ -148,7 +190,19 @@ std::int32_t intOf(const char* text) noexcept {
   return scanInt(text, value) ? value : 0;
 }
 
-bool floatOf(const char* text, float& value) noexcept {
+bool readInt(const char* text, std::int32_t& value) noexcept { return scanInt(text, value); }
+
+bool readUnsigned(const char* text, std::uint32_t& value) noexcept { return readModulo(text, value); }
+bool readUnsigned(const char* text, std::uint64_t& value) noexcept { return readModulo(text, value); }
+
+bool readByte(const char* text, std::uint8_t& value) noexcept {
+  std::int32_t read = 0;
+  if (!readInt(text, read) || read < 0 || read > UINT8_MAX) return false;
+  value = static_cast<std::uint8_t>(read);
+  return true;
+}
+
+bool readFloat(const char* text, float& value) noexcept {
   if (text == nullptr) return false;
   const bool negative = skipSign(text);
   Decimal decimal;
@@ -161,6 +215,15 @@ bool floatOf(const char* text, float& value) noexcept {
   float read = 0;
   if (*text != '\0' || !toFloat(decimal, read)) return false;
   value = negative ? -read : read;
+  return true;
+}
+
+bool readText(const char* text, char* field, std::size_t size) noexcept {
+  if (text == nullptr) return false;
+  const void* const end = std::memchr(text, '\0', size - 1);
+  const std::size_t length = end != nullptr ? static_cast<std::size_t>(static_cast<const char*>(end) - text) : size - 1;
+  std::memcpy(field, text, length);
+  field[length] = '\0';
   return true;
 }
 
