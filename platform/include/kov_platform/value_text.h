@@ -1,6 +1,6 @@
 /**
  * @file value_text.h
- * @brief Values out of received text: numbers, saturating and independent of locale and of the width of long, and texts.
+ * @brief Values out of received text: texts, and numbers, saturating and independent of locale and the width of long.
  *
  * One grammar of numbers for codec and reader: leading blanks, one sign, then digits; what follows them is ignored.
  */
