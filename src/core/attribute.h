@@ -166,6 +166,7 @@ class Attribute {
   }
 
   constexpr bool has(Flag flag) const { return (facts_ & flag) != 0; }
+  constexpr bool hasAny(Flag one, Flag other) const { return (facts_ & (one | other)) != 0; }
   constexpr Flag conversion() const { return static_cast<Flag>(facts_ & kConversion); }
   constexpr Kind kind() const { return static_cast<Kind>((facts_ >> kKindShift) & 7); }
   constexpr std::size_t nameLength() const { return (facts_ >> kNameShift) & kMostName; }

@@ -34,24 +34,36 @@ NumberedName::NumberedName(const char* prefix, unsigned number, const char* suff
   size_ = name.written() + 1;
 }
 
+bool BodyIo::element(const char* name, Attributes attributes) {
+  if (reading()) return readElement(name, attributes);
+  open(name);
+  writer_->literal("\n");
+  write(attributes);
+  writer_->literal("/>\n");
+  return true;
+}
+
 bool BodyIo::element(const char* name, Attributes attributes, const char* closing) {
-  if (writing()) {
-    open(name, "\n");
-    write(attributes);
-    writer_->text(closing);
-    return true;
-  }
-  const ElementReader found = find(name);
-  read(found, attributes);
-  return static_cast<bool>(found);
+  if (reading()) return readElement(name, attributes);
+  open(name);
+  writer_->literal("\n");
+  write(attributes);
+  writer_->text(closing);
+  return true;
 }
 
 bool BodyIo::element(const char* name, const char* opening, Attributes attributes, const char* closing) {
-  if (reading()) return element(name, attributes);
+  if (reading()) return readElement(name, attributes);
   writer_->text(opening);
   write(attributes);
   writer_->text(closing);
   return true;
+}
+
+bool BodyIo::readElement(const char* name, Attributes attributes) {
+  const ElementReader found = find(name);
+  read(found, attributes);
+  return static_cast<bool>(found);
 }
 
 bool BodyIo::elementWhen(bool condition, const char* name, Attributes attributes) {
@@ -60,7 +72,8 @@ bool BodyIo::elementWhen(bool condition, const char* name, Attributes attributes
 
 BodyIo BodyIo::enter(const char* name) {
   if (reading()) return {nullptr, find(name)};
-  open(name, ">\n");
+  open(name);
+  writer_->literal(">\n");
   return {writer_, at_};
 }
 
@@ -84,8 +97,9 @@ void BodyIo::texts(Attributes values) {
       const ElementReader found = find(value.name_);
       if (found && !value.has(Attribute::kSkipReading)) readValue(found.text(), value);
     } else if (isWritten(value)) {
-      open(value.name_, ">");
-      writeValue(value, mostOf(value));
+      open(value.name_);
+      writer_->literal(">");
+      writeValue(value);
       writer_->literal("</");
       writer_->text(value.name_, value.nameLength());
       writer_->text(value.has(Attribute::kThenNothing) ? ">" : ">\n");
@@ -116,15 +130,17 @@ std::int32_t BodyIo::eachEntry(const char* name, void* table, std::size_t entryS
   return done;
 }
 
-void BodyIo::open(const char* name, const char* end) {
-  writer_->character('<');
+void BodyIo::open(const char* name) {
+  writer_->literal("<");
   writer_->text(name);
-  writer_->text(end);
 }
 
-bool BodyIo::isWritten(const Attribute& attribute) {
+inline bool BodyIo::isWritten(const Attribute& attribute) {
+  return !attribute.hasAny(Attribute::kSkipWriting, Attribute::kIfSet) || isWrittenNow(attribute);
+}
+
+bool BodyIo::isWrittenNow(const Attribute& attribute) {
   if (attribute.has(Attribute::kSkipWriting)) return false;
-  if (!attribute.has(Attribute::kIfSet)) return true;
   switch (attribute.kind()) {
     case Kind::Text:
       return load<char>(attribute.field_) != '\0';
@@ -138,69 +154,71 @@ bool BodyIo::isWritten(const Attribute& attribute) {
   }
 }
 
-// Name="value" and what ends it, straight into the buffer wherever all of it fits.
+// Straight into the buffer wherever there is room for the longest value that the attribute may have.
 void BodyIo::write(Attributes attributes) {
-  constexpr std::size_t kMostPunctuation = 5;
+  constexpr std::size_t kMostAround = Attribute::kMostName + 5;
+  char* to = writer_->cursor();
   for (const Attribute& attribute : attributes) {
     if (!isWritten(attribute)) continue;
-    const std::size_t nameLength = attribute.nameLength();
-    const std::size_t most = mostOf(attribute);
-    char* to = writer_->place(nameLength + kMostPunctuation + most);
-    if (to == nullptr) {
-      writeCut(attribute, most);
-      continue;
+    if (kMostAround + mostOf(attribute) <= writer_->roomFrom(to)) {
+      to = putClosing(putValue(putOpening(to, attribute), attribute), attribute);
+    } else {
+      writer_->advanceTo(to);
+      writePieces(attribute);
+      to = writer_->cursor();
     }
-    copyShort(to, attribute.name_, nameLength);
-    to += nameLength;
-    if (attribute.has(Attribute::kBlankBeforeEquals)) *to++ = ' ';
-    std::memcpy(to, "=\"", 2);
-    to = putValue(to + 2, attribute, most);
-    *to++ = '"';
-    if (!attribute.has(Attribute::kThenNothing)) *to++ = attribute.has(Attribute::kThenBlank) ? ' ' : '\n';
-    writer_->advanceTo(to);
   }
+  writer_->advanceTo(to);
 }
 
-// The same piece by piece, for the attribute that is cut.
-void BodyIo::writeCut(const Attribute& attribute, std::size_t most) {
+inline char* BodyIo::putOpening(char* to, const Attribute& attribute) {
+  to = putShort(to, attribute.name_, attribute.nameLength());
+  if (attribute.has(Attribute::kBlankBeforeEquals)) *to++ = ' ';
+  std::memcpy(to, "=\"", 2);
+  return to + 2;
+}
+
+inline char* BodyIo::putClosing(char* to, const Attribute& attribute) {
+  std::memcpy(to, "\"\n", 2);
+  if (!attribute.hasAny(Attribute::kThenBlank, Attribute::kThenNothing)) return to + 2;
+  if (attribute.has(Attribute::kThenNothing)) return to + 1;
+  to[1] = ' ';
+  return to + 2;
+}
+
+// The same piece by piece, near the end of the buffer.
+void BodyIo::writePieces(const Attribute& attribute) {
   writer_->text(attribute.name_, attribute.nameLength());
   if (attribute.has(Attribute::kBlankBeforeEquals)) writer_->character(' ');
   writer_->literal("=\"");
-  writeValue(attribute, most);
+  writeValue(attribute);
   writer_->character('"');
   if (!attribute.has(Attribute::kThenNothing)) writer_->character(attribute.has(Attribute::kThenBlank) ? ' ' : '\n');
 }
 
-void BodyIo::writeValue(const Attribute& attribute, std::size_t most) {
+void BodyIo::writeValue(const Attribute& attribute) {
   if (attribute.kind() == Kind::Text) {
-    writer_->text(static_cast<const char*>(attribute.field_), most);
+    const char* const text = static_cast<const char*>(attribute.field_);
+    writer_->text(text, boundedLength(text, attribute.capacity()));
     return;
   }
-  char value[Attribute::kMostNumbers * (BodyWriter::kMostPadded + 1)];
-  writer_->text(value, static_cast<std::size_t>(putValue(value, attribute, most) - value));
+  char value[kMostNumberText];
+  writer_->text(value, static_cast<std::size_t>(putNumber(value, attribute) - value));
 }
 
-// How many bytes a value takes at most; a text takes just as many.
-std::size_t BodyIo::mostOf(const Attribute& attribute) {
-  switch (attribute.kind()) {
-    case Kind::Text:
-      return boundedLength(static_cast<const char*>(attribute.field_), attribute.capacity());
-    case Kind::Float:
-      return BodyWriter::kMostFixed;
-    case Kind::Int32List:
-    case Kind::UInt8List:
-      return attribute.numbers() * (BodyWriter::kMostPadded + 1);
-    default:
-      return BodyWriter::kMostDigits;
-  }
+inline std::size_t BodyIo::mostOf(const Attribute& attribute) {
+  return attribute.kind() == Kind::Text ? attribute.capacity() : kMostNumberText;
 }
 
-char* BodyIo::putValue(char* to, const Attribute& attribute, std::size_t textLength) {
+inline char* BodyIo::putValue(char* to, const Attribute& attribute) {
+  if (attribute.kind() != Kind::Text) return putNumber(to, attribute);
+  return putField(to, static_cast<const char*>(attribute.field_), attribute.capacity());
+}
+
+// A value of any kind but text.
+char* BodyIo::putNumber(char* to, const Attribute& attribute) {
   const void* const field = attribute.field_;
   switch (attribute.kind()) {
-    case Kind::Text:
-      copyShort(to, static_cast<const char*>(field), textLength);
-      return to + textLength;
     case Kind::Int32:
       if (attribute.conversion() == Attribute::kHexadecimal) break;
       return BodyWriter::putDecimal(to, load<std::int32_t>(field));

@@ -34,7 +34,8 @@ class BodyIo {
   bool reading() const { return writer_ == nullptr; }
 
   // One child element with attributes only. False when reading, and it is missing.
-  bool element(const char* name, Attributes attributes, const char* closing = "/>\n");
+  bool element(const char* name, Attributes attributes);
+  bool element(const char* name, Attributes attributes, const char* closing);
   bool element(const char* name, const char* opening, Attributes attributes, const char* closing = "/>\n");
   // As element(), but written only when the condition holds.
   bool elementWhen(bool condition, const char* name, Attributes attributes);
@@ -77,16 +78,25 @@ class BodyIo {
   std::int32_t eachEntry(const char* name, void* table, std::size_t entrySize, std::size_t capacity, std::int64_t count,
                          void (*form)(BodyIo&, void*));
 
+  // The longest text of a number or list: all of its numbers padded, with a separator behind each.
+  static constexpr std::size_t kMostNumberText = Attribute::kMostNumbers * (BodyWriter::kMostPadded + 1);
+  static_assert(kMostNumberText >= BodyWriter::kMostFixed && kMostNumberText >= BodyWriter::kMostDigits);
+
   ElementReader find(const char* name);
-  void open(const char* name, const char* end);
+  void open(const char* name);
+  bool readElement(const char* name, Attributes attributes);
   void write(Attributes attributes);
-  void writeCut(const Attribute& attribute, std::size_t most);
-  void writeValue(const Attribute& attribute, std::size_t most);
+  void writePieces(const Attribute& attribute);
+  void writeValue(const Attribute& attribute);
+  static char* putOpening(char* to, const Attribute& attribute);
+  static char* putClosing(char* to, const Attribute& attribute);
   static std::size_t mostOf(const Attribute& attribute);
-  static char* putValue(char* to, const Attribute& attribute, std::size_t textLength);
+  static char* putValue(char* to, const Attribute& attribute);
+  static char* putNumber(char* to, const Attribute& attribute);
   static char* putUnsigned(char* to, const Attribute& attribute, std::uint64_t value, std::int64_t asSigned);
   static char* putList(char* to, const Attribute& attribute);
   static bool isWritten(const Attribute& attribute);
+  static bool isWrittenNow(const Attribute& attribute);
 
   static void read(const ElementReader& element, Attributes attributes);
   static void readValue(const char* raw, const Attribute& attribute);

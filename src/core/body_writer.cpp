@@ -30,15 +30,21 @@ char* decimalBefore(char* end, std::uint64_t value) {
   return value <= UINT32_MAX ? digitsBefore(end, static_cast<std::uint32_t>(value)) : digitsBefore(end, value);
 }
 
+// Ten to the power of the index; a number below it has at most that many digits.
+constexpr std::uint32_t kPowersOfTen[] = {1,       10,        100,        1'000,       10'000,
+                                          100'000, 1'000'000, 10'000'000, 100'000'000, 1'000'000'000};
+
+// The number of digits of a number above zero. A bit is worth 0.301 digits, which is 1233 / 4096.
+unsigned digitCountOf(std::uint32_t value) {
+  const unsigned bits = 32 - static_cast<unsigned>(__builtin_clz(value));
+  const unsigned digits = bits * 1233 / 4096;
+  return digits + (value >= kPowersOfTen[digits] ? 1 : 0);
+}
+
 std::size_t digitCount(std::uint64_t value) {
-  std::size_t count = 1;
+  std::size_t count = 0;
   for (; value > UINT32_MAX; value /= 10) ++count;
-  for (auto small = static_cast<std::uint32_t>(value);; small /= 10000, count += 4) {
-    if (small < 10) return count;
-    if (small < 100) return count + 1;
-    if (small < 1000) return count + 2;
-    if (small < 10000) return count + 3;
-  }
+  return count + digitCountOf(static_cast<std::uint32_t>(value) | 1);
 }
 
 constexpr unsigned kMantissaBits = 23;
@@ -83,6 +89,14 @@ std::uint64_t millionths(std::uint32_t mantissa, unsigned shift) {
 
 }  // namespace
 
+void BodyWriter::text(const char* text, std::size_t length) {
+  if (length <= room()) {
+    cursor_ = putText(cursor_, text, length);
+  } else {
+    cut(text, length);
+  }
+}
+
 // What does not fit is cut, and counted.
 void BodyWriter::cut(const char* text, std::size_t length) {
   const std::size_t fits = room();
@@ -91,18 +105,13 @@ void BodyWriter::cut(const char* text, std::size_t length) {
   cut_ += length - fits;
 }
 
-char* BodyWriter::putUnsigned(char* to, std::uint64_t value) {
-  if (value < 10) {
-    *to = static_cast<char>('0' + value);
-    return to + 1;
-  }
+char* BodyWriter::putDigits(char* to, std::uint64_t value) {
   char* const end = to + digitCount(value);
   decimalBefore(end, value);
   return end;
 }
 
-char* BodyWriter::putDecimal(char* to, std::int64_t value) {
-  if (value >= 0) return putUnsigned(to, static_cast<std::uint64_t>(value));
+char* BodyWriter::putNegative(char* to, std::int64_t value) {
   *to = '-';
   return putUnsigned(to + 1, 0 - static_cast<std::uint64_t>(value));
 }

@@ -16,14 +16,7 @@ class BodyWriter {
   // `size` is at least 1: one byte is kept for the NUL.
   BodyWriter(char* buffer, std::size_t size) : begin_(buffer), cursor_(buffer), end_(buffer + size - 1) {}
 
-  void text(const char* text, std::size_t length) {
-    if (length <= room()) {
-      copyShort(cursor_, text, length);
-      cursor_ += length;
-    } else {
-      cut(text, length);
-    }
-  }
+  void text(const char* text, std::size_t length);
   void text(const char* text) { this->text(text, std::strlen(text)); }
 
   template <std::size_t Size>
@@ -42,7 +35,10 @@ class BodyWriter {
     text(field, fieldLength(field));
   }
 
-  void character(char c) { text(&c, 1); }
+  void character(char c) {
+    const char text[] = {c, '\0'};
+    literal(text);
+  }
 
   void decimal(std::int64_t value) { number(&putDecimal, value); }            // "%d", "%lld"
   void unsignedDecimal(std::uint64_t value) { number(&putUnsigned, value); }  // "%u", "%llu"
@@ -58,15 +54,20 @@ class BodyWriter {
 
   void terminate() { *cursor_ = '\0'; }
 
-  // For a caller that knows how much it writes at most: where to write it, null when that does not fit. What was
-  // written is then told by advanceTo().
-  char* place(std::size_t atMost) { return atMost <= room() ? cursor_ : nullptr; }
+  // For a caller that writes what certainly fits itself: where it begins, the room from there on, and where it ended.
+  char* cursor() { return cursor_; }
+  std::size_t roomFrom(const char* at) const { return static_cast<std::size_t>(end_ - at); }
   void advanceTo(char* end) { cursor_ = end; }
 
   // The same conversions for that place: each returns the end of what it wrote, which is at most as long as named here.
   static constexpr std::size_t kMostDigits = 20;
-  static char* putDecimal(char* to, std::int64_t value);
-  static char* putUnsigned(char* to, std::uint64_t value);
+  static char* putDecimal(char* to, std::int64_t value) {
+    return value >= 0 ? putUnsigned(to, static_cast<std::uint64_t>(value)) : putNegative(to, value);
+  }
+  static char* putUnsigned(char* to, std::uint64_t value) {
+    *to = static_cast<char>('0' + (value & 15));
+    return value < 10 ? to + 1 : putDigits(to, value);
+  }
   static char* putHexadecimal(char* to, std::uint64_t value);
   static constexpr std::size_t kMostPadded = 12;  // for a width up to that
   static char* putPadded(char* to, std::int32_t value, unsigned width, char padding);
@@ -74,8 +75,10 @@ class BodyWriter {
   static char* putFixed(char* to, float value);  // "%f"
 
  private:
-  std::size_t room() const { return static_cast<std::size_t>(end_ - cursor_); }
+  std::size_t room() const { return roomFrom(cursor_); }
   void cut(const char* text, std::size_t length);
+  static char* putNegative(char* to, std::int64_t value);
+  static char* putDigits(char* to, std::uint64_t value);
   template <class Value>
   void number(char* (*put)(char*, Value), Value value) {
     char digits[kMostDigits];

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 
 namespace kov {
@@ -42,23 +43,64 @@ class FieldText {
   char copy_[Capacity + 1];
 };
 
-// memcpy for the few bytes of names and values: no call for up to 16 of them.
-inline void copyShort(char* to, const char* from, std::size_t length) {
-  if (length > 16) {
-    std::memcpy(to, from, length);
+// Copies up to 32 bytes without a call and returns the end of the copy. Two halves that overlap serve every length
+// between a power of two and the next.
+inline char* putShort(char* to, const char* from, std::size_t length) {
+  const auto putHalves = [=](auto half) {
+    auto first = half;
+    auto last = half;
+    std::memcpy(&first, from, sizeof half);
+    std::memcpy(&last, from + length - sizeof half, sizeof half);
+    std::memcpy(to, &first, sizeof half);
+    std::memcpy(to + length - sizeof half, &last, sizeof half);
+  };
+  struct SixteenBytes {
+    std::uint64_t words[2];
+  };
+  if (length >= 16) {
+    putHalves(SixteenBytes{});
   } else if (length >= 8) {
-    char last[8];
-    std::memcpy(last, from + length - 8, 8);
-    std::memcpy(to, from, 8);
-    std::memcpy(to + length - 8, last, 8);
+    putHalves(std::uint64_t{});
   } else if (length >= 4) {
-    char last[4];
-    std::memcpy(last, from + length - 4, 4);
-    std::memcpy(to, from, 4);
-    std::memcpy(to + length - 4, last, 4);
+    putHalves(std::uint32_t{});
   } else {
     for (std::size_t i = 0; i < length; ++i) to[i] = from[i];
   }
+  return to + length;
+}
+
+// The same for a text of any length, which is mostly short.
+inline char* putText(char* to, const char* from, std::size_t length) {
+  if (length <= 32) return putShort(to, from, length);
+  std::memcpy(to, from, length);
+  return to + length;
+}
+
+// The index of the first byte in memory of a word in which only the top bits of bytes are set.
+inline std::size_t firstByteSet(std::uintptr_t topBits) {
+  constexpr bool kLittleEndian = __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__;
+  constexpr unsigned kWordBits = 8 * sizeof(std::uintptr_t);
+  const std::uint64_t bits = topBits;
+  const int before = kLittleEndian ? __builtin_ctzll(bits) : __builtin_clzll(bits << (64 - kWordBits));
+  return static_cast<std::size_t>(before) / 8;
+}
+
+// Copies the text of a field, which ends at its NUL or at its capacity, and returns the end of the copy. It goes word
+// by word and so writes up to `capacity` bytes, however short the text is.
+inline char* putField(char* to, const char* field, std::size_t capacity) {
+  using Word = std::uintptr_t;
+  constexpr Word kSevenBits = ~Word{0} / 0xFF * 0x7F;
+  for (; capacity >= sizeof(Word); capacity -= sizeof(Word)) {
+    Word word = 0;
+    std::memcpy(&word, field, sizeof word);
+    std::memcpy(to, &word, sizeof word);
+    const Word zeros = ~(((word & kSevenBits) + kSevenBits) | word | kSevenBits);  // the top bit of each zero byte
+    if (zeros != 0) return to + firstByteSet(zeros);
+    field += sizeof word;
+    to += sizeof word;
+  }
+  for (; capacity != 0 && *field != '\0'; --capacity) *to++ = *field++;
+  return to;
 }
 
 inline bool sameText(const char* left, const char* right) { return std::strcmp(left, right) == 0; }
