@@ -16,6 +16,13 @@ void put(char (&field)[Capacity], const char* text) {
   std::strncpy(field, text, Capacity - 1);
 }
 
+template <class Record, int (*Defaults)(Record*)>
+char* newRecord(std::size_t valuesSize) {
+  void* const block = std::malloc(sizeof(Record) + valuesSize);
+  Defaults(static_cast<Record*>(block));
+  return static_cast<char*>(block);
+}
+
 // Records are kept for the whole run.
 template <class Record>
 Record& make() {
@@ -41,8 +48,11 @@ PlannedElement planOf(const pugi::xml_node& node, std::size_t& size) {
   return element;
 }
 
-Sample sampleOf(const char* name, const char* type, const char* code, int direction, const void* record) {
+template <class Record, int (*Defaults)(Record*)>
+Sample sampleOf(const char* name, const char* type, const char* code, int direction, const Record* record) {
   Sample sample = {};
+  sample.newRecord = newRecord<Record, Defaults>;
+  sample.recordSize = sizeof(Record);
   sample.name = name;
   put(sample.header.Msg_type, type);
   put(sample.header.Msg_code, code);
@@ -57,7 +67,7 @@ Sample sampleOf(const char* name, const char* type, const char* code, int direct
   sample.document.assign(out.data() + skip, static_cast<std::size_t>(length) - skip);
   pugi::xml_document parsed;
   if (!parsed.load_string(sample.document.c_str())) std::abort();  // the samples are well formed for everybody
-  sample.plan = planOf(parsed.document_element(), sample.recordSize);
+  sample.plan = planOf(parsed.document_element(), sample.valuesSize);
   return sample;
 }
 
@@ -65,7 +75,8 @@ Sample query() {
   auto& record = make<NVR_REPLAY_3001_PARAM>();
   record.ChannelId = 3;
   put(record.Time, "2026-11-21 08:00:00");
-  return sampleOf("query", NVR_REPLAY_MESSAGE_TYPE, "3001", KOV_REQUEST, &record);
+  return sampleOf<NVR_REPLAY_3001_PARAM, NVR_REPLAY_3001_PARAM_init>("query", NVR_REPLAY_MESSAGE_TYPE, "3001",
+                                                                     KOV_REQUEST, &record);
 }
 
 Sample discoveryAnswer() {
@@ -88,7 +99,8 @@ Sample discoveryAnswer() {
   }
   record.StreamAccess.Auth = 1;
   record.StreamAccess.VideoPort = 554;
-  return sampleOf("discovery answer", SYSTEM_SEARCHIPC_MESSAGE_TYPE, "3", KOV_RESPONSE, &record);
+  return sampleOf<SYSTEM_SEARCHIPC_3_PARAM, SYSTEM_SEARCHIPC_3_PARAM_init>(
+      "discovery answer", SYSTEM_SEARCHIPC_MESSAGE_TYPE, "3", KOV_RESPONSE, &record);
 }
 
 // The whole media configuration is unbalanced on the wire; a channel's is its balanced twin.
@@ -97,7 +109,8 @@ Sample mediaConfiguration() {
   std::memset(static_cast<void*>(&record), '1', sizeof record);
   record.Status = -1;
   record.ChannelId = 1;
-  return sampleOf("media configuration", SYSTEM_CONFIG_GET_MESSAGE_TYPE, "501", KOV_RESPONSE, &record);
+  return sampleOf<SYSTEM_CONFIG_GET_501_PARAM, SYSTEM_CONFIG_GET_501_PARAM_init>(
+      "media configuration", SYSTEM_CONFIG_GET_MESSAGE_TYPE, "501", KOV_RESPONSE, &record);
 }
 
 Sample detectionRule() {
@@ -107,7 +120,8 @@ Sample detectionRule() {
     rule->drawing.LineCoordinatesNum = 4;
     rule->LightAlarmPeriodNum = rule->AudioAlarmPeriodNum = rule->EmailAlarmPeriodNum = 2;
   }
-  return sampleOf("detection rule", SYSTEM_CONFIG_GET_MESSAGE_TYPE, "1402", KOV_RESPONSE, &record);
+  return sampleOf<SYSTEM_CONFIG_GET_1402_PARAM, SYSTEM_CONFIG_GET_1402_PARAM_init>(
+      "detection rule", SYSTEM_CONFIG_GET_MESSAGE_TYPE, "1402", KOV_RESPONSE, &record);
 }
 
 }  // namespace
@@ -131,7 +145,8 @@ Sample channelList(int channels) {
     put(channel.RtspSubResPath, "/sub/stream");
   }
   const std::string name = std::to_string(channels) + " channels";
-  return sampleOf(name.c_str(), SYSTEM_CONFIG_GET_MESSAGE_TYPE, "3803", KOV_RESPONSE, &record);
+  return sampleOf<SYSTEM_CONFIG_GET_3803_PARAM, SYSTEM_CONFIG_GET_3803_PARAM_init>(
+      name.c_str(), SYSTEM_CONFIG_GET_MESSAGE_TYPE, "3803", KOV_RESPONSE, &record);
 }
 
 const std::vector<Sample>& samples() {

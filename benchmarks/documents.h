@@ -10,7 +10,7 @@
 
 namespace kov::bench {
 
-// One attribute to read: into which bytes of the peer's record, and how.
+// One attribute to read: into which of the bytes for the values, and how.
 struct PlannedAttribute {
   std::string name;
   bool number;  // an int32; else a text of at most kTextSize bytes
@@ -33,7 +33,12 @@ struct Sample {
   int direction;
   std::string document;    // without frame header
   PlannedElement plan;     // the whole document, from its root
-  std::size_t recordSize;  // what a peer fills for it
+  std::size_t valuesSize;  // the bytes that the plan's values take
+
+  // What a peer fills, to be released by std::free: a record of the message's own type that holds its defaults, like
+  // the library's result, and behind it the bytes for the values.
+  char* (*newRecord)(std::size_t valuesSize);
+  std::size_t recordSize;
 };
 
 const std::vector<Sample>& samples();

@@ -5,15 +5,15 @@
 
 namespace kov::bench {
 
-// Each parses `text`, which it may alter, and stores what the plan names into `record`.
-void readByPugixml(std::string& text, const Sample& sample, char* record);
-void readByRapidxml(std::string& text, const Sample& sample, char* record);
-void readByTinyxml2(std::string& text, const Sample& sample, char* record);
-void readByExpat(std::string& text, const Sample& sample, char* record);
-void readByLibxml2(std::string& text, const Sample& sample, char* record);
+// Each parses `text`, which it may alter, and stores what the plan names into `values`.
+void readByPugixml(std::string& text, const Sample& sample, char* values);
+void readByRapidxml(std::string& text, const Sample& sample, char* values);
+void readByTinyxml2(std::string& text, const Sample& sample, char* values);
+void readByExpat(std::string& text, const Sample& sample, char* values);
+void readByLibxml2(std::string& text, const Sample& sample, char* values);
 
 // Stores one value as the plan says.
-void storeValue(const PlannedAttribute& attribute, const char* value, char* record);
+void storeValue(const PlannedAttribute& attribute, const char* value, char* values);
 
 // Each prints the document of the plan into `out`.
 void writeBySnprintf(const Sample& sample, char* out, std::size_t size);

@@ -1,7 +1,6 @@
 #include "ratios.h"
 
 #include <cstdio>
-#include <map>
 
 namespace kov::bench {
 
@@ -9,25 +8,24 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
   for (const Run& run : runs) {
     const std::string name = run.run_name.function_name;
     const std::size_t slash = name.rfind('/');
-    const bool isTime = run.aggregate_name.empty() || run.aggregate_name == "median";
-    if (!isTime || slash == std::string::npos) continue;
+    if (run.aggregate_name != kBest || slash == std::string::npos) continue;
     const auto counter = [&run](const char* wanted) {
       const auto found = run.counters.find(wanted);
       return found == run.counters.end() ? 0.0 : found->second.value;
     };
-    results_.push_back(
-        {name.substr(0, slash), name.substr(slash + 1), run.GetAdjustedCPUTime(), counter("blocks"), counter("peak")});
+    results_[run.family_index] = Result{name.substr(0, slash), name.substr(slash + 1), run.GetAdjustedCPUTime(),
+                                        counter("blocks"), counter("peak")};
   }
 }
 
 void RatioReporter::printRatios() const {
   std::map<std::string, double> ours;
-  for (const Result& result : results_) {
+  for (const auto& [index, result] : results_) {
     if (result.contender == "kov") ours[result.work] = result.nanoseconds;
   }
   std::printf(
       "| work | contender | ns | kov / contender | heap blocks | peak heap, bytes |\n|---|---|---|---|---|---|\n");
-  for (const Result& result : results_) {
+  for (const auto& [index, result] : results_) {
     std::printf("| %s | %s | %.0f | %.2f | %.0f | %.0f |\n", result.work.c_str(), result.contender.c_str(),
                 result.nanoseconds, ours[result.work] / result.nanoseconds, result.blocks, result.peak);
   }

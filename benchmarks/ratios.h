@@ -3,10 +3,15 @@
 
 #include <benchmark/benchmark.h>
 
+#include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
 namespace kov::bench {
+
+// The statistic that the table shows: the best repetition.
+constexpr const char* kBest = "best";
 
 // Registers all benchmarks. They are named "work/contender"; the library's contender is "kov".
 void registerAll();
@@ -24,7 +29,7 @@ class RatioReporter : public benchmark::ConsoleReporter {
     double blocks;
     double peak;
   };
-  std::vector<Result> results_;
+  std::map<std::int64_t, Result> results_;  // in the order of registration
 };
 
 }  // namespace kov::bench

@@ -12,39 +12,39 @@
 namespace kov::bench {
 namespace {
 
-void walk(const pugi::xml_node& node, const PlannedElement& plan, char* record) {
+void walk(const pugi::xml_node& node, const PlannedElement& plan, char* values) {
   for (const PlannedAttribute& attribute : plan.attributes) {
-    storeValue(attribute, node.attribute(attribute.name.c_str()).value(), record);
+    storeValue(attribute, node.attribute(attribute.name.c_str()).value(), values);
   }
   pugi::xml_node child;
   for (const PlannedElement& element : plan.children) {
     const bool again = child && element.name == child.name();
     child = again ? child.next_sibling(element.name.c_str()) : node.child(element.name.c_str());
-    walk(child, element, record);
+    walk(child, element, values);
   }
 }
 
-void walk(rapidxml::xml_node<>* node, const PlannedElement& plan, char* record) {
+void walk(rapidxml::xml_node<>* node, const PlannedElement& plan, char* values) {
   for (const PlannedAttribute& attribute : plan.attributes) {
-    storeValue(attribute, node->first_attribute(attribute.name.c_str())->value(), record);
+    storeValue(attribute, node->first_attribute(attribute.name.c_str())->value(), values);
   }
   rapidxml::xml_node<>* child = nullptr;
   for (const PlannedElement& element : plan.children) {
     const bool again = child != nullptr && element.name == child->name();
     child = again ? child->next_sibling(element.name.c_str()) : node->first_node(element.name.c_str());
-    walk(child, element, record);
+    walk(child, element, values);
   }
 }
 
-void walk(const tinyxml2::XMLElement* node, const PlannedElement& plan, char* record) {
+void walk(const tinyxml2::XMLElement* node, const PlannedElement& plan, char* values) {
   for (const PlannedAttribute& attribute : plan.attributes) {
-    storeValue(attribute, node->Attribute(attribute.name.c_str()), record);
+    storeValue(attribute, node->Attribute(attribute.name.c_str()), values);
   }
   const tinyxml2::XMLElement* child = nullptr;
   for (const PlannedElement& element : plan.children) {
     const bool again = child != nullptr && element.name == child->Name();
     child = again ? child->NextSiblingElement(element.name.c_str()) : node->FirstChildElement(element.name.c_str());
-    walk(child, element, record);
+    walk(child, element, values);
   }
 }
 
@@ -60,15 +60,15 @@ const char* valueOf(xmlNode* node, const std::string& name) {
   return reinterpret_cast<const char*>(attribute->children->content);
 }
 
-void walk(xmlNode* node, const PlannedElement& plan, char* record) {
+void walk(xmlNode* node, const PlannedElement& plan, char* values) {
   for (const PlannedAttribute& attribute : plan.attributes) {
-    storeValue(attribute, valueOf(node, attribute.name), record);
+    storeValue(attribute, valueOf(node, attribute.name), values);
   }
   xmlNode* child = nullptr;
   for (const PlannedElement& element : plan.children) {
     xmlNode* const next = child != nullptr ? nextNamed(child->next, element.name) : nullptr;
     child = next != nullptr ? next : nextNamed(node->children, element.name);
-    walk(child, element, record);
+    walk(child, element, values);
   }
 }
 
@@ -76,7 +76,7 @@ void walk(xmlNode* node, const PlannedElement& plan, char* record) {
 struct PushState {
   std::vector<const PlannedElement*> order;
   std::size_t next = 0;
-  char* record = nullptr;
+  char* values = nullptr;
 };
 
 void flatten(const PlannedElement& element, std::vector<const PlannedElement*>& order) {
@@ -90,7 +90,7 @@ void XMLCALL onElement(void* user, const XML_Char*, const XML_Char** attributes)
   for (const PlannedAttribute& wanted : plan.attributes) {
     for (const XML_Char** found = attributes; *found != nullptr; found += 2) {
       if (wanted.name != *found) continue;
-      storeValue(wanted, found[1], state.record);
+      storeValue(wanted, found[1], state.values);
       break;
     }
   }
@@ -98,37 +98,39 @@ void XMLCALL onElement(void* user, const XML_Char*, const XML_Char** attributes)
 
 }  // namespace
 
-void storeValue(const PlannedAttribute& attribute, const char* value, char* record) {
+void storeValue(const PlannedAttribute& attribute, const char* value, char* values) {
   if (attribute.number) {
     const int number = std::atoi(value);
-    std::memcpy(record + attribute.offset, &number, sizeof number);
+    std::memcpy(values + attribute.offset, &number, sizeof number);
   } else {
-    std::strncpy(record + attribute.offset, value, kTextSize - 1);
+    const std::size_t length = strnlen(value, kTextSize - 1);
+    std::memcpy(values + attribute.offset, value, length);
+    values[attribute.offset + length] = '\0';
   }
 }
 
-void readByPugixml(std::string& text, const Sample& sample, char* record) {
+void readByPugixml(std::string& text, const Sample& sample, char* values) {
   pugi::xml_document document;
   document.load_buffer(text.data(), text.size(), pugi::parse_default, pugi::encoding_latin1);
-  walk(document.document_element(), sample.plan, record);
+  walk(document.document_element(), sample.plan, values);
 }
 
-void readByRapidxml(std::string& text, const Sample& sample, char* record) {
+void readByRapidxml(std::string& text, const Sample& sample, char* values) {
   rapidxml::xml_document<> document;
   document.parse<rapidxml::parse_default>(text.data());
-  walk(document.first_node(), sample.plan, record);
+  walk(document.first_node(), sample.plan, values);
 }
 
-void readByTinyxml2(std::string& text, const Sample& sample, char* record) {
+void readByTinyxml2(std::string& text, const Sample& sample, char* values) {
   tinyxml2::XMLDocument document;
   document.Parse(text.data(), text.size());
-  walk(document.RootElement(), sample.plan, record);
+  walk(document.RootElement(), sample.plan, values);
 }
 
-void readByExpat(std::string& text, const Sample& sample, char* record) {
+void readByExpat(std::string& text, const Sample& sample, char* values) {
   PushState state;
   flatten(sample.plan, state.order);
-  state.record = record;
+  state.values = values;
   XML_Parser parser = XML_ParserCreate("ISO-8859-1");  // the label of the documents is unknown to it
   XML_SetUserData(parser, &state);
   XML_SetStartElementHandler(parser, onElement);
@@ -136,10 +138,10 @@ void readByExpat(std::string& text, const Sample& sample, char* record) {
   XML_ParserFree(parser);
 }
 
-void readByLibxml2(std::string& text, const Sample& sample, char* record) {
+void readByLibxml2(std::string& text, const Sample& sample, char* values) {
   xmlDoc* const document =
       xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, "ISO-8859-1", XML_PARSE_NONET);
-  walk(xmlDocGetRootElement(document), sample.plan, record);
+  walk(xmlDocGetRootElement(document), sample.plan, values);
   xmlFreeDoc(document);
 }
 
