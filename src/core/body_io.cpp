@@ -156,7 +156,6 @@ bool BodyIo::isWrittenNow(const Attribute& attribute) {
 
 // Straight into the buffer wherever there is room for the longest value that the attribute may have.
 void BodyIo::write(Attributes attributes) {
-  constexpr std::size_t kMostAround = Attribute::kMostName + 5;
   char* to = writer_->cursor();
   for (const Attribute& attribute : attributes) {
     if (!isWritten(attribute)) continue;
@@ -188,12 +187,10 @@ inline char* BodyIo::putClosing(char* to, const Attribute& attribute) {
 
 // The same piece by piece, near the end of the buffer.
 void BodyIo::writePieces(const Attribute& attribute) {
-  writer_->text(attribute.name_, attribute.nameLength());
-  if (attribute.has(Attribute::kBlankBeforeEquals)) writer_->character(' ');
-  writer_->literal("=\"");
+  char piece[kMostAround];
+  writer_->text(piece, static_cast<std::size_t>(putOpening(piece, attribute) - piece));
   writeValue(attribute);
-  writer_->character('"');
-  if (!attribute.has(Attribute::kThenNothing)) writer_->character(attribute.has(Attribute::kThenBlank) ? ' ' : '\n');
+  writer_->text(piece, static_cast<std::size_t>(putClosing(piece, attribute) - piece));
 }
 
 void BodyIo::writeValue(const Attribute& attribute) {

@@ -82,6 +82,9 @@ class BodyIo {
   static constexpr std::size_t kMostNumberText = Attribute::kMostNumbers * (BodyWriter::kMostPadded + 1);
   static_assert(kMostNumberText >= BodyWriter::kMostFixed && kMostNumberText >= BodyWriter::kMostDigits);
 
+  // What stands around a value at most: the name, a blank, the equals sign, two quotes and what ends it.
+  static constexpr std::size_t kMostAround = Attribute::kMostName + 5;
+
   ElementReader find(const char* name);
   void open(const char* name);
   bool readElement(const char* name, Attributes attributes);
