@@ -64,15 +64,6 @@ TEST_F(AnalysisEntry, FamiliesSeeTheWholeLengthOfADocumentThatFillsThePayload) {
                                                  size + ") datalen(0) endcode(4) all(" + size + ")\n"});
 }
 
-TEST_F(AnalysisEntry, WhatAFormattingOrderYieldsUnderTheStorageCodeMayBeComposedUnderIt) {
-  const std::string type = "SYSTEM_CONTROL_MESSAGE";
-  const Analysis order =
-      analysePayload(received(type, "1014", "<REQUEST_PARAM DevName=\"" + std::string(70, 'd') + "\"/>"));
-  ASSERT_EQ(order.code, 0);
-  EXPECT_EQ(bodyOf(type, "1014", 1, order.result.get()),
-            "<RESPONSE_PARAM\nSerialNumber=\"" + std::string(63, 'd') + "\"\n/>\n");
-}
-
 TEST_F(AnalysisEntry, IncompleteTextIsRefusedInSilence) {
   const std::string document = received(kType, "3003", kBody);
   EXPECT_EQ(analysePayload(document.substr(0, document.size() - 1)).code, KOV_ERROR_INCOMPLETE);
@@ -282,21 +273,6 @@ TEST_F(AnalysisEntry, StopReleasesOnceAndIgnoresNull) {
   EXPECT_EQ(KovProtocolMSGAnalysisStop(&result), 0);
   EXPECT_EQ(result, nullptr);
   EXPECT_EQ(KovProtocolMSGAnalysisStop(&result), 0);
-}
-
-TEST_F(AnalysisEntry, HostileSizesTakeLinearTime) {
-  std::string attributes;
-  std::string siblings;
-  std::string nested;
-  for (int i = 0; i < 100000; ++i) {
-    attributes += " a" + std::to_string(i) + "=\"\"";
-    siblings += "<A/>";
-    nested += "<A>";
-  }
-  EXPECT_EQ(channelOf(analysePayload(received(kType, "3003", "<REQUEST_PARAM" + attributes + " ChannelId=\"4\"/>"))),
-            4);
-  EXPECT_EQ(channelOf(analysePayload(received(kType, "3003", siblings + kBody))), 4);
-  EXPECT_EQ(analysePayload(received(kType, "3003", nested)).code, KOV_ERROR_BAD_HEADER);
 }
 
 }  // namespace

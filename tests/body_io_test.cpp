@@ -42,6 +42,11 @@ TEST(BodyWriterTest, NumbersReadAsPrintfWritesThem) {
     EXPECT_EQ(text([&](BodyWriter& w) { w.hexadecimal(value); }), formatted("%llx", value));
   }
   EXPECT_EQ(text([](BodyWriter& w) { w.decimal(INT64_MIN); }), "-9223372036854775808");
+  for (unsigned long long power = 10; power <= 10'000'000'000'000'000'000ULL / 10; power *= 10) {
+    for (const unsigned long long value : {power - 1, power}) {
+      EXPECT_EQ(text([&](BodyWriter& w) { w.unsignedDecimal(value); }), formatted("%llu", value));
+    }
+  }
 }
 
 TEST(BodyWriterTest, FloatsReadAsPrintfWritesThem) {
@@ -64,7 +69,28 @@ TEST(BodyWriterTest, FloatsReadAsPrintfWritesThem) {
   }
 }
 
-// What is read of the attributes, written again. Plain numbers and texts are the business of the typed readers.
+TEST(BodyIoTest, TextsEndAtTheirNulOrTheirCapacity) {
+  struct Record {
+    char text[19];
+  };
+  const auto record = std::make_unique<Record>();  // a block of its own, so that reading on is seen
+  for (const char fill : {'a', '\x01', '\x80', '\xFF'}) {
+    for (std::size_t length = 0; length <= sizeof record->text; ++length) {
+      std::memset(record->text, fill, sizeof record->text);
+      if (length < sizeof record->text) record->text[length] = '\0';
+      const std::string expected = "t=\"" + std::string(length, fill) + "\"\n";
+      for (const std::size_t size : {expected.size() + 1, std::size_t{100}}) {
+        const std::unique_ptr<char[]> buffer(new char[size]);
+        BodyWriter writer(buffer.get(), size);
+        BodyIo(writer).attributes({{"t", record->text}});
+        writer.terminate();
+        EXPECT_EQ(buffer.get(), expected);
+      }
+    }
+  }
+}
+
+// What is read of the attributes, written again. Plain numbers and texts have tests of their own.
 std::string rewritten(const std::string& attributes) {
   KovXMLParser document;
   EXPECT_EQ(document.Parse(("<A " + attributes + "/>").c_str()), 0);

@@ -87,16 +87,6 @@ TEST_F(ComposeEntry, AnExactFitIsRefusedAndOneMoreByteTaken) {
   for (const int size : {1, 7, 8, 9, length, length + 8}) EXPECT_EQ(compose(size), KOV_ERROR_SIZE) << size;
   EXPECT_EQ(failures(), std::vector<std::string>{});
   EXPECT_EQ(compose(length + 9), length + 8);
-
-  NVR_REPLAY_3017_PARAM large;
-  set(large.TimeSliceInfo, std::string(2047, 's'));
-  NVR_REPLAY_3012_PARAM texts;
-  texts.HasVideoParam = texts.HasAudioParam = 1;
-  set(texts.VideoParam, std::string(1023, 'v'));
-  header_ = headerOf("NVR_REPLAY_MESSAGE", "3017");
-  param_ = &large;
-  const int whole = KovProtocolXMLCompose(&header_, param_, 1, KOV_PLAIN, nullptr, frame_.data(), 1);
-  EXPECT_EQ(whole, KOV_ERROR_SIZE);
 }
 
 TEST_F(ComposeEntry, RefusesInvalidInput) {

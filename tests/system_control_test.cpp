@@ -5,8 +5,7 @@
 
 #include "control/control_messages.h"
 #include "every_message.h"
-#include "golden.h"
-#include "wire.h"
+#include "trials.h"
 
 namespace kov::test {
 namespace {
@@ -46,33 +45,24 @@ TEST_F(SystemControlTest, CodesWithoutBodySucceedAndTouchNothing) {
   EXPECT_EQ(failures(), Lines());
 }
 
-TEST_F(SystemControlTest, UnknownCodesAreToldByNumber) {
+TEST_F(SystemControlTest, UnknownCodesAndEmptyArgumentsAreTold) {
   char body[8] = "?";
   void* result = nullptr;
+  std::vector<Outcome> calls;
   for (const char* code : {"1003", "3024", "5012"}) {
-    resetPlatform();
-    EXPECT_EQ(SystemControlMessageCompose(body, 1, code, body, 8), KOV_ERROR_UNKNOWN_MESSAGE);
-    EXPECT_EQ(SystemControlMessageAnalysis("", code, &result), KOV_ERROR_UNKNOWN_MESSAGE);
-    const std::string line = std::string("E SYSTEM_CONTROL_MESSAGE deal a unknow msg_cdoe : ") + code + "\n";
-    EXPECT_EQ(logLines(), Lines(2, line));
+    calls.emplace_back(SystemControlMessageCompose(body, 1, code, body, 8));
+    calls.emplace_back(SystemControlMessageAnalysis("", code, &result));
   }
-  EXPECT_STREQ(body, "?");
-}
-
-TEST_F(SystemControlTest, DispatchersRefuseEmptyArguments) {
-  char body[8] = "?";
-  void* result = nullptr;
   for (const char* code : {"1014", "1019"}) {
-    resetPlatform();
-    EXPECT_EQ(SystemControlMessageCompose(body, 1, code, nullptr, 8), KOV_ERROR_EMPTY_ARGUMENT);
-    EXPECT_EQ(SystemControlMessageCompose(body, 1, code, body, 0), KOV_ERROR_EMPTY_ARGUMENT);
-    EXPECT_EQ(SystemControlMessageCompose(body, 1, nullptr, body, 8), KOV_ERROR_EMPTY_ARGUMENT);
-    EXPECT_EQ(SystemControlMessageAnalysis(nullptr, code, &result), KOV_ERROR_EMPTY_ARGUMENT);
-    EXPECT_EQ(SystemControlMessageAnalysis("", nullptr, &result), KOV_ERROR_EMPTY_ARGUMENT);
-    EXPECT_EQ(SystemControlMessageAnalysis("", code, nullptr), KOV_ERROR_EMPTY_ARGUMENT);
-    EXPECT_EQ(logLines(), Lines(6, "E SYSTEM_CONTROL_MESSAGE put a empty Param\n"));
-    EXPECT_EQ(SystemControlMessageCompose(nullptr, 1, code, body, 8), 0);
+    calls.emplace_back(SystemControlMessageCompose(body, 1, code, nullptr, 8));
+    calls.emplace_back(SystemControlMessageCompose(body, 1, code, body, 0));
+    calls.emplace_back(SystemControlMessageAnalysis(nullptr, code, &result));
+    calls.emplace_back(SystemControlMessageAnalysis("", code, nullptr));
+    calls.emplace_back(SystemControlMessageCompose(nullptr, 1, code, body, 8));
   }
+  calls.emplace_back(SystemControlMessageCompose(body, 1, nullptr, body, 8));
+  calls.emplace_back(SystemControlMessageAnalysis("", nullptr, &result));
+  expectTold("control/calls", calls);
   EXPECT_STREQ(body, "?");
 }
 
@@ -166,17 +156,12 @@ TEST_F(SystemControlTest, StorageFormatReplacesTheStorageRecord) {
 }
 
 TEST_F(SystemControlTest, StorageTellsTheFailuresOfBothMessages) {
-  const std::string storage = "E SystemControl_GetIpcStorageCfg_MessageAnalysis ";
-  const std::string format = "E SystemControl_StorageDeviceFormat_MessageAnalysis ";
   int untouched = 0;
   void* result = &untouched;
-  EXPECT_EQ(SystemControlMessageAnalysis("<XML_ZANTIR>", "1014", &result), KOV_ERROR_BAD_DOCUMENT);
-  EXPECT_EQ(SystemControlMessageAnalysis("<XML_ZANTIR/>", "1014", &result), KOV_ERROR_BAD_DOCUMENT);
-  EXPECT_EQ(SystemControlMessageAnalysis("<XML_ZANTIR><MESSAGE_BODY/></XML_ZANTIR>", "1014", &result),
-            KOV_ERROR_NO_ELEMENT);
-  EXPECT_EQ(logLines(), (Lines{storage + "Parse MsgBuf error\n", format + "Parse MsgBuf error\n",
-                               storage + "get MESSAGE_BODY error\n", format + "get MESSAGE_BODY error\n",
-                               storage + "get RESPONSE_PARAM error\n", format + "get REQUEST_PARAM error\n"}));
+  expectTold("control/storage_calls",
+             {SystemControlMessageAnalysis("<XML_ZANTIR>", "1014", &result),
+              SystemControlMessageAnalysis("<XML_ZANTIR/>", "1014", &result),
+              SystemControlMessageAnalysis("<XML_ZANTIR><MESSAGE_BODY/></XML_ZANTIR>", "1014", &result)});
   EXPECT_EQ(result, &untouched);
 }
 
@@ -193,14 +178,11 @@ TEST_F(SystemControlTest, StorageWithoutMemoryForEitherRecord) {
 }
 
 TEST_F(SystemControlTest, VersionsAreToldUnderTheNameOfTheTime) {
-  const std::string name = "E SystemControl_SetIpcTime_MessageAnalysis ";
   void* result = nullptr;
-  EXPECT_EQ(SystemControl_GetIpcSysVersion_MessageAnalysis(nullptr, &result), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(SystemControl_GetIpcSysVersion_MessageAnalysis("", nullptr), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(SystemControl_GetIpcSysVersion_MessageAnalysis("<XML_ZANTIR>", &result), KOV_ERROR_BAD_DOCUMENT);
-  EXPECT_EQ(SystemControl_GetIpcSysVersion_MessageAnalysis("<XML_ZANTIR/>", &result), KOV_ERROR_BAD_DOCUMENT);
-  EXPECT_EQ(failures(), (Lines{name + "put a empty Param\n", name + "put a empty Param\n",
-                               name + "Parse MsgBuf error\n", name + "get MESSAGE_BODY error\n"}));
+  expectTold("control/versions_calls", {SystemControl_GetIpcSysVersion_MessageAnalysis(nullptr, &result),
+                                        SystemControl_GetIpcSysVersion_MessageAnalysis("", nullptr),
+                                        SystemControl_GetIpcSysVersion_MessageAnalysis("<XML_ZANTIR>", &result),
+                                        SystemControl_GetIpcSysVersion_MessageAnalysis("<XML_ZANTIR/>", &result)});
   const Analysis byText = dispatched("1012", "<SystemInfo ChannelNum=\"16\"/>");
   ASSERT_EQ(byText.code, 0);
   EXPECT_EQ(static_cast<SYSTEM_CONTROL_1012_PARAM*>(byText.result.get())->SystemInfo.ChannelNum, 16);
