@@ -107,8 +107,8 @@ void addGrowth() {
   for (const Sample& list : lists) {
     add("analyse " + list.name + "/kov", analyseKov, &list);
   }
-  wide.reserve(3);
-  for (const int attributes : {1000, 10000, 100000}) {
+  wide.reserve(5);
+  for (const int attributes : {64, 1000, 2000, 10000, 100000}) {
     Sample sample = samples().front();
     std::string more;
     for (int i = 0; i < attributes; ++i) more += " a" + std::to_string(i) + "=\"v\"";
