@@ -207,9 +207,15 @@ inline std::size_t BodyIo::mostOf(const Attribute& attribute) {
   return attribute.kind() == Kind::Text ? attribute.capacity() : kMostNumberText;
 }
 
+// The two kinds that most attributes have are written here, without a call.
 inline char* BodyIo::putValue(char* to, const Attribute& attribute) {
-  if (attribute.kind() != Kind::Text) return putNumber(to, attribute);
-  return putField(to, static_cast<const char*>(attribute.field_), attribute.capacity());
+  if (attribute.kind() == Kind::Text) {
+    return putField(to, static_cast<const char*>(attribute.field_), attribute.capacity());
+  }
+  if (attribute.kind() == Kind::Int32 && attribute.conversion() != Attribute::kHexadecimal) {
+    return BodyWriter::putDecimal(to, load<std::int32_t>(attribute.field_));
+  }
+  return putNumber(to, attribute);
 }
 
 // A value of any kind but text.

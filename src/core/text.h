@@ -76,26 +76,20 @@ inline char* putText(char* to, const char* from, std::size_t length) {
   return to + length;
 }
 
-// The index of the first byte in memory of a word in which only the top bits of bytes are set.
-inline std::size_t firstByteSet(std::uintptr_t topBits) {
-  constexpr bool kLittleEndian = __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__;
-  constexpr unsigned kWordBits = 8 * sizeof(std::uintptr_t);
-  const std::uint64_t bits = topBits;
-  const int before = kLittleEndian ? __builtin_ctzll(bits) : __builtin_clzll(bits << (64 - kWordBits));
-  return static_cast<std::size_t>(before) / 8;
-}
-
 // Copies the text of a field, which ends at its NUL or at its capacity, and returns the end of the copy. It goes word
 // by word and so writes up to `capacity` bytes, however short the text is.
 inline char* putField(char* to, const char* field, std::size_t capacity) {
   using Word = std::uintptr_t;
-  constexpr Word kSevenBits = ~Word{0} / 0xFF * 0x7F;
+  constexpr Word kOnes = ~Word{0} / 0xFF;  // 0x01 in every byte
   for (; capacity >= sizeof(Word); capacity -= sizeof(Word)) {
     Word word = 0;
     std::memcpy(&word, field, sizeof word);
     std::memcpy(to, &word, sizeof word);
-    const Word zeros = ~(((word & kSevenBits) + kSevenBits) | word | kSevenBits);  // the top bit of each zero byte
-    if (zeros != 0) return to + firstByteSet(zeros);
+    const Word zeros = (word - kOnes) & ~word & (kOnes << 7);  // its lowest bit belongs to the lowest zero byte
+    if (zeros != 0) {
+      if (__BYTE_ORDER__ != __ORDER_LITTLE_ENDIAN__) break;
+      return to + static_cast<unsigned>(__builtin_ctzll(zeros)) / 8;
+    }
     field += sizeof word;
     to += sizeof word;
   }
