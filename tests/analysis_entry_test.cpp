@@ -62,6 +62,9 @@ TEST_F(AnalysisEntry, FamiliesSeeTheWholeLengthOfADocumentThatFillsThePayload) {
   EXPECT_EQ(analysePayload(document).code, KOV_ERROR_SIZE);
   EXPECT_EQ(failures(), std::vector<std::string>{"E MediaData_IntercomData_MessageAnalysis date size error : xmllen(" +
                                                  size + ") datalen(0) endcode(4) all(" + size + ")\n"});
+  setCoder([&](const char*, int, char* out, int) { return static_cast<int>(document.copy(out, document.size())); });
+  EXPECT_EQ(analysePayload(std::string(200, 'p'), 1).code, KOV_ERROR_SIZE);  // all that was received, before decoding
+  EXPECT_NE(failures().back().find(" all(200)\n"), std::string::npos);
 }
 
 TEST_F(AnalysisEntry, IncompleteTextIsRefusedInSilence) {
@@ -193,7 +196,9 @@ TEST_F(AnalysisEntry, DecodersThatFailOrLie) {
     EXPECT_EQ(decodeTo(capacity + 1), KOV_ERROR_CODING);
     EXPECT_EQ(decodeTo(INT_MAX), KOV_ERROR_CODING);
   }
-  setCoder([](const char*, int, char*, int) { return 8000; });  // claims bytes that it never wrote
+  setCoder([&](const char*, int, char* out, int) { return static_cast<int>(document.copy(out, document.size())); });
+  EXPECT_EQ(channelOf(analysePayload("p", 1)), 4);
+  setCoder([](const char*, int, char*, int) { return 8000; });  // claims bytes that it never wrote, just now a document
   EXPECT_EQ(analysePayload("p", 1).code, KOV_ERROR_INCOMPLETE);
 }
 
@@ -248,6 +253,12 @@ TEST_F(AnalysisEntry, TransparentMessagesHandOutTheEmbeddedText) {
     EXPECT_EQ(record->PayloadLength, analysis.code);
   }
   EXPECT_EQ(failures(), std::vector<std::string>{});
+  std::string untyped = "<XML_ZANTIR><TRANSPARENT_HEADER/>" + embedded;
+  KOV_PROTOCOL_HEADER header = headerOf("old", "old");
+  void* result = nullptr;
+  KovProtocolMSGAnalysisStart(untyped.data(), static_cast<int>(untyped.size()), KOV_PLAIN, nullptr, &header, &result);
+  EXPECT_STREQ(header.Msg_type, "");
+  KovProtocolMSGAnalysisStop(&result);
   EXPECT_EQ(analysePayload(transparent("<OTHER/>\n</XML_ZANTIR>")).code, KOV_ERROR_INCOMPLETE);
   failAllocation(1);
   EXPECT_EQ(analysePayload(transparent(embedded)).code, KOV_ERROR_NO_MEMORY);

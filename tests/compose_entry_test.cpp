@@ -162,15 +162,20 @@ TEST_F(ComposeEntry, EncodersThatFailOrFillTheirCapacity) {
   setCoder([](const char*, int, char*, int) { return 0; });
   EXPECT_EQ(compose(size, 0), 8);
   EXPECT_EQ(lengthField(), 0U);
-  for (const int length : {size - 8, size - 7, 2 * size - 8, 2 * size, INT_MAX}) {
-    int capacity = 0;
-    setCoder([&](const char*, int, char* out, int room) {
-      capacity = room;
-      std::memset(out, 'e', static_cast<std::size_t>(room));
-      return length;
-    });
-    EXPECT_EQ(compose(size, 0), length == size - 8 ? size : KOV_ERROR_SIZE) << length;
-    EXPECT_EQ(capacity, 2 * size - 8);
+  setCoder([](const char*, int, char*, int) { return 100; });  // claims bytes that it never wrote
+  EXPECT_EQ(compose(size, 0), 108);
+  EXPECT_EQ(frame_.substr(8, 100), std::string(100, '\0'));
+  for (const int room : {size, 8192, 8193}) {  // the last needs a block
+    for (const int length : {room - 8, room - 7, 2 * room - 8, 2 * room, INT_MAX}) {
+      int capacity = 0;
+      setCoder([&](const char*, int, char* out, int most) {
+        capacity = most;
+        std::memset(out, 'e', static_cast<std::size_t>(most));
+        return length;
+      });
+      EXPECT_EQ(compose(room, 0), length == room - 8 ? room : KOV_ERROR_SIZE) << length;
+      EXPECT_EQ(capacity, 2 * room - 8);
+    }
   }
 }
 

@@ -1,5 +1,6 @@
 // The exported functions of one line each, by the lists in cmake/exports: each must serve the record and the message
 // that its name says.
+#include <climits>
 #include <cstddef>
 #include <cstring>
 #include <map>
@@ -52,6 +53,28 @@ TEST(Exported, EachServesWhatItsNameSays) {
 #define KOV_EXPORTED(name) check(#name, name);
 #include "exported.inc"
 #undef KOV_EXPORTED
+}
+
+TEST(Exported, ComposersRefuseSizesBelowOne) {
+  const KOV_PROTOCOL_HEADER header;
+  const KOV_HEARTBEAT_CMD_HEARTBEAT_PARAM heartbeat;
+  const NVR_REPLAY_3001_PARAM query;
+  const SYSTEM_CONFIG_GET_203_PARAM users;
+  const SYSTEM_CONTROL_1014_PARAM storage;
+  const SYSTEM_CONTROL_1020_PARAM abilities;
+  const LIVE_STREAM_CMD_STREAM_START_PARAM start;
+  for (const int size : {0, -1, INT_MIN}) {
+    char body[1] = {'?'};
+    for (const int code : {NvrReplayMessageCompose(&query, 0, "3001", body, size),
+                           SystemConfigMessageCompose(&users, 0, "203", body, size),
+                           SystemControlMessageCompose(&storage, 1, "1014", body, size),
+                           SystemControl_GetSysAbality_MessageCompose(&abilities, 1, body, size),
+                           LiveStreamMessageCompose(&start, 0, "1062", body, size, nullptr, 0, 0)}) {
+      EXPECT_EQ(code, KOV_ERROR_EMPTY_ARGUMENT) << size;
+    }
+    EXPECT_EQ(HeartbeatMessageCompose(&header, &heartbeat, body, size, 0), KOV_ERROR_BAD_HEADER) << size;
+    EXPECT_EQ(body[0], '?');
+  }
 }
 
 }  // namespace

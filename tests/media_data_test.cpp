@@ -85,6 +85,7 @@ TEST_F(MediaDataTest, ThumbnailTimesAreSeparatedByCommas) {
   const std::string full = repeated("TTTTTTTTTTTTTTTT,", 20);
   EXPECT_EQ(times(record), full);
   EXPECT_STREQ(asking(full + "U").TimeList[19], "TTTTTTTTTTTTTTT");
+  EXPECT_STREQ(asking(std::string(400, 'T')).TimeList[1], "");  // no comma as far as the list is read
   record = asking("TTTTTTTTTTTTTTTT,1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21");
   EXPECT_EQ((Texts{record.TimeList[0], record.TimeList[19], record.reserved2}), (Texts{"TTTTTTTTTTTTTTT", "19", ""}));
   EXPECT_EQ(times(asking("A,,B")), "A,B,");

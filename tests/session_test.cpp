@@ -46,7 +46,7 @@ TEST_F(SessionTest, HeartbeatKeepsToItsBufferAndDropsWholeLines) {
   EXPECT_STREQ(extras, "x=\"1\"\nIpcs_stat=\"abc\"\nIpcAbility1=\"d\"\n");
   expectTold("session/heartbeat_calls", {HeartbeatMessageCompose(&header, nullptr, extras, 64, -1),
                                          HeartbeatMessageCompose(&header, &record, extras, 64, -1),
-                                         HeartbeatMessageCompose(&header, &record, extras, 64, 65),
+                                         HeartbeatMessageCompose(&header, &record, extras, 64, 64),
                                          HeartbeatMessageCompose(nullptr, &record, extras, 64, 0),
                                          HeartbeatMessageCompose(&header, &record, nullptr, 64, 0),
                                          HeartbeatMessageCompose(&header, nullptr, extras, 0, 0)});

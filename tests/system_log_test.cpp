@@ -97,6 +97,14 @@ TEST_F(SystemLogTest, DataWithoutSeparatorIsTheDocumentAndWhatFollows) {
   EXPECT_STREQ(static_cast<Log*>(analysis.result.get())->Data + document.size() + 1, "X1");
 }
 
+// Quotes put around a channel move the document away from what was received behind it.
+TEST_F(SystemLogTest, DataOfADocumentThatMovedEndsWithIt) {
+  const std::string body = "<POS DataLen=\"3000\"/><a b=\"SYSTEM_CONFIG_GET_MESSAGE 501\"/><c ChannelId=3/>";
+  const Analysis analysis = analysePayload(received(kLog, "1", body) + "\nX1");
+  ASSERT_EQ(analysis.code, 0);
+  EXPECT_EQ(std::strlen(static_cast<Log*>(analysis.result.get())->Data), received(kLog, "1", body).size() + 2);
+}
+
 TEST_F(SystemLogTest, RawDataBehindATextOfUnknownLength) {
   const std::string separator(4, '\0');
   const std::string file = received(kLog, "1", "<POS DataLen=\"5\"/>");

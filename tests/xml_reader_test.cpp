@@ -216,6 +216,8 @@ TEST(XmlCopies, KeepTheDocumentBeyondItsParser) {
     ASSERT_EQ(parser.Parse("<A b='1'>&lt;C/></A>"), 0);
     root = parser.RootElement();
     copy = parser;
+    KovXMLParser& same = copy;
+    copy = same;
     EXPECT_NE(parser.Parse("<A"), 0);
     EXPECT_EQ(parser.RootElement(), nullptr);
   }

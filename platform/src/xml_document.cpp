@@ -19,11 +19,10 @@ std::size_t textArea(std::size_t length) { return (length + sizeof(Word)) / size
 std::size_t usualWords(std::size_t length) { return length / 2 + 4 * kElementWords; }
 
 /**
- * Record words that suffice for any text of that length: the shortest closed element, `<a/>`, takes four bytes of text
- * and four words, an attribute takes four bytes, two words and two more for telling it from the others. Only the open
- * ancestors may have taken fewer bytes, two at least.
+ * Record words that suffice for any text of that length that is well-formed: the shortest element, `<a/>`, takes four
+ * bytes of text and four words, an attribute takes four bytes, two words and two more for telling it from the others.
  */
-std::size_t mostWords(std::size_t length) { return length + 2 * kMaxDepth; }
+std::size_t mostWords(std::size_t length) { return length; }
 
 }  // namespace
 }  // namespace kov::xml

@@ -29,8 +29,7 @@ int quoteChannel(ReceivedText& text) {
   if (name == ReceivedText::kNowhere) return KOV_OK;
   const std::size_t value = name + kNameLength;
   if (text[value] == '"' || !namesSuchACode(text)) return KOV_OK;
-  const std::size_t end = text.find("/", 0, value);
-  if (end == ReceivedText::kNowhere) return KOV_OK;
+  const std::size_t end = text.find("/", 0, value);  // the closing root tag has one at the latest
   return text.quote(value, end) ? KOV_OK : KOV_ERROR_NO_MEMORY;
 }
 

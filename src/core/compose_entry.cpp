@@ -96,13 +96,12 @@ int composeInPlace(Request& request, char* place, std::size_t size, int outSize)
   return length;
 }
 
-// For an output below the least document size: composes elsewhere and takes what fits.
+// For an output below the least document size, and so a room below it: composes elsewhere and takes what fits.
 int composeAside(Request& request, char* place, std::size_t room, int outSize) {
   char document[kLeastDocument];
   const int length = composeInPlace(request, document, sizeof document, outSize);
   if (length < 0) return length;
-  const std::size_t written = std::min<std::size_t>(static_cast<std::size_t>(length), sizeof document - 1);
-  std::memcpy(place, document, std::min(written, room));
+  std::memcpy(place, document, std::min(static_cast<std::size_t>(length), room));
   return length;
 }
 
