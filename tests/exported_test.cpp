@@ -57,7 +57,6 @@ TEST(Exported, EachServesWhatItsNameSays) {
 
 TEST(Exported, ComposersRefuseSizesBelowOne) {
   const KOV_PROTOCOL_HEADER header;
-  const KOV_HEARTBEAT_CMD_HEARTBEAT_PARAM heartbeat;
   const NVR_REPLAY_3001_PARAM query;
   const SYSTEM_CONFIG_GET_203_PARAM users;
   const SYSTEM_CONTROL_1014_PARAM storage;
@@ -65,6 +64,7 @@ TEST(Exported, ComposersRefuseSizesBelowOne) {
   const LIVE_STREAM_CMD_STREAM_START_PARAM start;
   for (const int size : {0, -1, INT_MIN}) {
     char body[1] = {'?'};
+    resetPlatform();
     for (const int code : {NvrReplayMessageCompose(&query, 0, "3001", body, size),
                            SystemConfigMessageCompose(&users, 0, "203", body, size),
                            SystemControlMessageCompose(&storage, 1, "1014", body, size),
@@ -72,7 +72,8 @@ TEST(Exported, ComposersRefuseSizesBelowOne) {
                            LiveStreamMessageCompose(&start, 0, "1062", body, size, nullptr, 0, 0)}) {
       EXPECT_EQ(code, KOV_ERROR_EMPTY_ARGUMENT) << size;
     }
-    EXPECT_EQ(HeartbeatMessageCompose(&header, &heartbeat, body, size, 0), KOV_ERROR_BAD_HEADER) << size;
+    EXPECT_EQ(failures()[1], "E SystemConfigMessageCompose deal Msg_code:203, put a empty Param\n");
+    EXPECT_EQ(HeartbeatMessageCompose(&header, nullptr, body, size, 0), KOV_ERROR_BAD_HEADER) << size;
     EXPECT_EQ(body[0], '?');
   }
 }

@@ -216,11 +216,11 @@ TEST(XmlCopies, KeepTheDocumentBeyondItsParser) {
     ASSERT_EQ(parser.Parse("<A b='1'>&lt;C/></A>"), 0);
     root = parser.RootElement();
     copy = parser;
-    KovXMLParser& same = copy;
-    copy = same;
     EXPECT_NE(parser.Parse("<A"), 0);
     EXPECT_EQ(parser.RootElement(), nullptr);
   }
+  KovXMLParser& same = copy;
+  copy = same;
   EXPECT_STREQ(copy.Attribute(root, "b"), "1");
   EXPECT_EQ(copy.Parse(copy.Attribute(root, "b")), -1) << "the text to parse lay in the document just replaced";
 }
