@@ -153,6 +153,24 @@ TEST_F(AnalysisEntry, FamiliesRefuseInTheirOwnWords) {
   }
 }
 
+// What a document lacks is the application's; it may have left it without a NUL.
+TEST_F(AnalysisEntry, HeaderFieldsWithoutTerminatorStayInside) {
+  const std::string x32(32, 'x');
+  const std::pair<std::string, std::string> cases[] = {
+      {"", "E KovProtocolMSGAnalysisStart deal a unknow Msg_type:" + x32 + " Msg_code:" + x32 + " !!!\n"},
+      {"Msg_type=\"NVR_REPLAY_MESSAGE\"", "E LIVE_STREAM_MESSAGE deal a unknow Msg_code:" + x32 + " !!!\n"}};
+  for (const auto& [attributes, line] : cases) {
+    std::string payload = "<XML_ZANTIR>\n<MESSAGE_HEADER " + attributes + "/></XML_ZANTIR>";
+    const auto header = std::make_unique<KOV_PROTOCOL_HEADER>();
+    std::memset(static_cast<void*>(header.get()), 'x', sizeof *header);
+    void* result = nullptr;
+    EXPECT_EQ(KovProtocolMSGAnalysisStart(payload.data(), static_cast<int>(payload.size()), KOV_PLAIN, nullptr,
+                                          header.get(), &result),
+              KOV_ERROR_UNKNOWN_MESSAGE);
+    EXPECT_EQ(failures().back(), line);
+  }
+}
+
 TEST_F(AnalysisEntry, DecodesByMode) {
   const std::string document = received(kType, "3003", kBody);
   std::string encoded = document;

@@ -133,6 +133,13 @@ TEST_F(ComposeEntry, HeaderFieldsWithoutTerminatorStayInside) {
   const std::string expected = "<MESSAGE_HEADER\nMsg_type=\"" + x32 + "\"\nMsg_code=\"" + x32 + "\"\nMsg_flag=\"" +
                                x32 + "\"\nMsg_uuid=\"" + x32 + x32 + "\"\nMsg_chn=\"" + x32 + "\"\n\n/>";
   EXPECT_NE(frame_.find(expected), std::string::npos) << frame_;
+  param_ = &record_;
+  EXPECT_EQ(compose(9000), KOV_ERROR_UNKNOWN_MESSAGE);
+  EXPECT_EQ(logLines().back(), "E KovProtocolXMLCompose deal a unknow Msg_type:" + x32 + " Msg_code:" + x32 + " !!!\n");
+  set(header_.Msg_type, "NVR_REPLAY_MESSAGE");
+  EXPECT_EQ(compose(9000), KOV_ERROR_UNKNOWN_MESSAGE);
+  EXPECT_EQ(failures().back(),
+            "E Msgtype:NVR_REPLAY_MESSAGE Msg_code:" + x32 + " Msg_flag:" + x32 + " Compose failed, nRet : -1000\n");
 }
 
 TEST_F(ComposeEntry, EncodesByKeyAndMode) {
