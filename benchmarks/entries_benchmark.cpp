@@ -30,6 +30,7 @@ void composePeer(benchmark::State& state, const Sample* sample, void (*write)(co
   const std::unique_ptr<char[]> out(new char[kLargeOutput]);
   const std::size_t size = sample->document.size() < kSmallOutput ? kSmallOutput : kLargeOutput;
   write(*sample, out.get(), size);
+  if (sample->document.compare(0, std::string::npos, out.get(), sample->document.size()) != 0) std::abort();
   HeapUse heap(state);
   for (auto step : state) {
     (void)step;

@@ -2,26 +2,41 @@
 #include <fmt/format.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
+#include <deque>
 #include <map>
 #include <memory>
+#include <regex>
+#include <utility>
+#include <vector>
 
 #include "peers.h"
 
 namespace kov::bench {
 namespace {
 
-// A document cut at its attribute values: the pieces around them, and the values as an application has them.
+constexpr std::size_t kMostNumbers = 6;
+
+// A document cut at its values, and the values as an application has them in its record: numbers, also those that stand
+// in lists, and texts that end in a NUL.
 struct Template {
   std::string format;  // for fmt, with {} for each value
-  struct Line {
-    std::string format;  // for printf: text with one %s or %d, or none
-    bool number;
-    int integer;
+  struct Line {        // for printf: one attribute or entry of a list, with the text before it
+    std::string format;
+    std::vector<int> numbers;
     std::string text;
+    bool hasText = false;
   };
-  std::vector<Line> lines;
+  std::deque<Line> lines;  // its texts stay where they are
+  Line before;             // the text that goes in front of the next value
   fmt::dynamic_format_arg_store<fmt::format_context> arguments;
+
+  void add(const std::string& text);
+  void addNumber(int number);
+  void addText(const std::string& value);
+  void addValue(const std::string& value);
+  void endLine();
 };
 
 std::string doubled(const std::string& text, char special) {
@@ -30,33 +45,55 @@ std::string doubled(const std::string& text, char special) {
   return result;
 }
 
-void addText(Template& made, const std::string& text) {
-  made.format += doubled(doubled(text, '{'), '}');
-  if (!text.empty()) made.lines.push_back({doubled(text, '%'), false, 0, ""});
+void Template::add(const std::string& text) {
+  format += doubled(doubled(text, '{'), '}');
+  before.format += doubled(text, '%');
 }
 
-void addValue(Template& made, const std::string& value) {
-  char* end = nullptr;
-  const long number = std::strtol(value.c_str(), &end, 10);
-  const bool isNumber = end != value.c_str() && *end == '\0';
-  made.format += "{}";
-  made.lines.push_back({isNumber ? "%d" : "%s", isNumber, static_cast<int>(number), value});
+void Template::addNumber(int number) {
+  if (before.numbers.size() == kMostNumbers) endLine();
+  format += "{}";
+  before.format += "%d";
+  before.numbers.push_back(number);
+  before.numbers.reserve(kMostNumbers);
+  arguments.push_back(number);
 }
 
-// One append an attribute, as a straight implementation has it: the text before a value belongs to its format.
-void joinLines(Template& made) {
-  std::vector<Template::Line> joined;
-  for (std::size_t i = 0; i < made.lines.size(); ++i) {
-    Template::Line line = made.lines[i];
-    const bool literal = line.format != "%d" && line.format != "%s";
-    if (literal && i + 1 < made.lines.size()) {
-      Template::Line value = made.lines[++i];
-      value.format = line.format + value.format;
-      line = value;
+void Template::addText(const std::string& value) {
+  format += "{}";
+  before.format += "%s";
+  before.text = value;
+  before.hasText = true;
+  endLine();
+  arguments.push_back(lines.back().text.c_str());
+}
+
+// Numbers between marks, as "[-1,4]," or "8:30:0" or "7".
+bool isNumbers(const std::string& value) {
+  static const std::regex numbers(R"(\[?-?(0|[1-9]\d{0,8})([\]\[,:*-]+(0|[1-9]\d{0,8}))*[\],]*)");
+  return std::regex_match(value, numbers);
+}
+
+void Template::addValue(const std::string& value) {
+  if (!isNumbers(value)) return addText(value);
+  const char* at = value.c_str();
+  while (*at != '\0') {
+    char* end = nullptr;
+    const long number = std::strtol(at, &end, 10);
+    if (end != at) {
+      addNumber(static_cast<int>(number));
+    } else {
+      add(std::string(1, *at));
+      ++end;
     }
-    joined.push_back(line);
+    at = end;
   }
-  made.lines = joined;
+  endLine();
+}
+
+void Template::endLine() {
+  before.numbers.resize(kMostNumbers);  // printf ignores what its format does not name
+  lines.push_back(std::exchange(before, Line()));
 }
 
 Template makeTemplate(const std::string& document) {
@@ -65,19 +102,12 @@ Template makeTemplate(const std::string& document) {
   for (std::size_t quote = document.find("=\""); quote != std::string::npos; quote = document.find("=\"", at)) {
     const std::size_t value = quote + 2;
     const std::size_t end = document.find('"', value);
-    addText(made, document.substr(at, value - at));
-    addValue(made, document.substr(value, end - value));
+    made.add(document.substr(at, value - at));
+    made.addValue(document.substr(value, end - value));
     at = end;
   }
-  addText(made, document.substr(at));
-  joinLines(made);
-  for (const Template::Line& line : made.lines) {
-    if (line.number) {
-      made.arguments.push_back(line.integer);
-    } else if (line.format.find('%') != std::string::npos) {
-      made.arguments.push_back(std::cref(line.text));
-    }
-  }
+  made.add(document.substr(at));
+  made.endLine();
   return made;
 }
 
@@ -90,18 +120,23 @@ const Template& templateOf(const Sample& sample) {
 
 }  // namespace
 
-// Successive appends into a zero-filled scratch area, and a copy of what came of it.
+// Successive appends of the body into a zero-filled scratch area, the whole document from that into another, and a copy
+// of what came of it.
 void writeBySnprintf(const Sample& sample, char* out, std::size_t size) {
   const Template& text = templateOf(sample);
-  const std::unique_ptr<char[]> scratch(new char[size]());
+  const std::unique_ptr<char[]> body(new char[size]());
+  const std::unique_ptr<char[]> document(new char[size]());
   std::size_t length = 0;
   for (const Template::Line& line : text.lines) {
     const char* const format = line.format.c_str();
-    const int added = line.number ? std::snprintf(scratch.get() + length, size - length, format, line.integer)
-                                  : std::snprintf(scratch.get() + length, size - length, format, line.text.c_str());
+    const std::vector<int>& n = line.numbers;
+    const int added =
+        line.hasText ? std::snprintf(body.get() + length, size - length, format, line.text.c_str())
+                     : std::snprintf(body.get() + length, size - length, format, n[0], n[1], n[2], n[3], n[4], n[5]);
     length += static_cast<std::size_t>(added);
   }
-  std::memcpy(out, scratch.get(), length);
+  length = static_cast<std::size_t>(std::snprintf(document.get(), size, "%s", body.get()));
+  std::memcpy(out, document.get(), length);
 }
 
 void writeByFmt(const Sample& sample, char* out, std::size_t size) {

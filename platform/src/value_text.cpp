@@ -56,14 +56,16 @@ inline const char* scanShort(const char* text, std::int32_t& value) {
   constexpr int kMostDigits = 9;
   const bool negative = *text == '-';
   if (negative) ++text;
-  if (!isDigit(*text)) return nullptr;
-  std::int32_t sum = 0;
+  std::uint32_t digit = digitOf<10>(*text);
+  if (digit > 9) return nullptr;
+  std::uint32_t sum = 0;
   const char* const end = text + kMostDigits;
-  for (; isDigit(*text); ++text) {
+  do {
     if (text == end) return nullptr;
-    sum = sum * 10 + (*text - '0');
-  }
-  value = negative ? -sum : sum;
+    sum = sum * 10 + digit;
+    digit = digitOf<10>(*++text);
+  } while (digit <= 9);
+  value = static_cast<std::int32_t>(negative ? 0 - sum : sum);
   return text;
 }
 
@@ -187,6 +189,7 @@ bool scanInt(const char*& text, std::int32_t& value) noexcept {
 
 std::int32_t intOf(const char* text) noexcept {
   std::int32_t value = 0;
+  if (text == nullptr || scanShort(text, value) != nullptr) return value;
   return scanInt(text, value) ? value : 0;
 }
 

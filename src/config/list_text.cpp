@@ -15,24 +15,32 @@ static_assert(sizeof(SYSTEM_CONFIG_POINT) == 2 * sizeof(std::int32_t), "a point 
 
 std::size_t sizeOf(const EntryShape& shape) { return shape.numbers * sizeof(std::int32_t); }
 
-void writeEntry(BodyWriter& text, const EntryShape& shape, const char* entry) {
-  std::int32_t numbers[kMostNumbers];
-  std::memcpy(numbers, entry, sizeOf(shape));
-  char written[kMostNumbers * (BodyWriter::kMostPadded + 1) + 2];
-  char* to = written;
+constexpr std::size_t kMostEntry = kMostNumbers * (kMostTwoPlaces + 1) + 2;
+
+char* putEntry(char* to, const EntryShape& shape, const char* entry) {
   *to++ = '[';
-  for (std::size_t i = 0; i < shape.numbers; ++i) {
-    to = BodyWriter::putPadded(to, numbers[i], shape.width, '0');
+  for (std::size_t i = 0; i < shape.numbers; ++i, entry += sizeof(std::int32_t)) {
+    std::int32_t number = 0;
+    std::memcpy(&number, entry, sizeof number);
+    to = putTwoPlaces(to, number, shape.padding);
     *to++ = shape.behind[i];
   }
   *to++ = ',';
-  text.text(written, static_cast<std::size_t>(to - written));
+  return to;
 }
 
 void writeEntries(BodyWriter& text, const EntryShape& shape, const ListTable& table) {
   const char* entry = static_cast<const char*>(table.entries);
   for (std::int32_t i = 0; i < table.count && i < table.capacity; ++i, entry += sizeOf(shape)) {
-    writeEntry(text, shape, entry);
+    char aside[kMostEntry];  // for an entry that may not fit
+    const bool fits = text.room() >= kMostEntry;
+    char* const to = fits ? text.cursor() : aside;
+    char* const end = putEntry(to, shape, entry);
+    if (fits) {
+      text.advanceTo(end);
+    } else {
+      text.text(aside, static_cast<std::size_t>(end - aside));
+    }
   }
 }
 
@@ -67,8 +75,8 @@ void writeCut(BodyWriter& body, const EntryShape& shape, const ListTable& table)
 
 }  // namespace
 
-constexpr EntryShape kPeriodEntry = {"::-::]", 6, 2};
-constexpr EntryShape kPointEntry = {",]", 2, 1};
+constexpr EntryShape kPeriodEntry = {"::-::]", 6, '0'};
+constexpr EntryShape kPointEntry = {",]", 2, '\0'};
 
 void listAttribute(BodyIo& io, const char* name, const EntryShape& shape, const ListTable& table, ListText built) {
   if (io.reading()) {

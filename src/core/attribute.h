@@ -129,7 +129,8 @@ class Attribute {
     kConversion = 3U << 27,
     kThenBlank = 1U << 29,
     kThenNothing = 1U << 30,
-    kBlankBeforeEquals = 1U << 31
+    kBlankBeforeEquals = 1U << 31,
+    kUnusualText = kConversion | kThenBlank | kThenNothing | kBlankBeforeEquals
   };
 
   template <std::size_t Size>
@@ -166,7 +167,9 @@ class Attribute {
   }
 
   constexpr bool has(Flag flag) const { return (facts_ & flag) != 0; }
-  constexpr bool hasAny(Flag one, Flag other) const { return (facts_ & (one | other)) != 0; }
+  constexpr bool isAlwaysWritten() const { return (facts_ & (kIfSet | kSkipWriting)) == 0; }
+  // Written in the usual layout and conversion.
+  constexpr bool isPlain() const { return (facts_ & kUnusualText) == 0; }
   constexpr Flag conversion() const { return static_cast<Flag>(facts_ & kConversion); }
   constexpr Kind kind() const { return static_cast<Kind>((facts_ >> kKindShift) & 7); }
   constexpr std::size_t nameLength() const { return (facts_ >> kNameShift) & kMostName; }

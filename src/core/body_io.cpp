@@ -136,14 +136,13 @@ void BodyIo::open(const char* name) {
 }
 
 inline bool BodyIo::isWritten(const Attribute& attribute) {
-  return !attribute.hasAny(Attribute::kSkipWriting, Attribute::kIfSet) || isWrittenNow(attribute);
+  if (attribute.isAlwaysWritten()) return true;
+  if (attribute.has(Attribute::kSkipWriting)) return false;
+  return attribute.kind() == Kind::Text ? load<char>(attribute.field_) != '\0' : isNumberSet(attribute);
 }
 
-bool BodyIo::isWrittenNow(const Attribute& attribute) {
-  if (attribute.has(Attribute::kSkipWriting)) return false;
+bool BodyIo::isNumberSet(const Attribute& attribute) {
   switch (attribute.kind()) {
-    case Kind::Text:
-      return load<char>(attribute.field_) != '\0';
     case Kind::UInt8:
     case Kind::UInt8List:
       return isSet(load<std::uint8_t>(attribute.field_));
@@ -157,31 +156,70 @@ bool BodyIo::isWrittenNow(const Attribute& attribute) {
 // Straight into the buffer wherever there is room for the longest value that the attribute may have.
 void BodyIo::write(Attributes attributes) {
   char* to = writer_->cursor();
+  const char* const end = to + writer_->room();
   for (const Attribute& attribute : attributes) {
     if (!isWritten(attribute)) continue;
-    if (kMostAround + mostOf(attribute) <= writer_->roomFrom(to)) {
-      to = putClosing(putValue(putOpening(to, attribute), attribute), attribute);
-    } else {
+    const std::size_t room = static_cast<std::size_t>(end - to);
+    char* behind = attribute.isPlain() ? putPlain(to, attribute, room) : put(to, attribute, room);
+    if (behind == nullptr) {
       writer_->advanceTo(to);
       writePieces(attribute);
-      to = writer_->cursor();
+      behind = writer_->cursor();
     }
+    to = behind;
   }
   writer_->advanceTo(to);
 }
 
-inline char* BodyIo::putOpening(char* to, const Attribute& attribute) {
+// Null when it may not fit. Most attributes are plain, and of one of three kinds; what is said of them is loaded before
+// anything is stored, which might alter it for all that the compiler knows.
+inline char* BodyIo::putPlain(char* to, const Attribute& attribute, std::size_t room) {
+  if (room < kMostAround + kMostNumberText) return nullptr;
+  const void* const field = attribute.field_;
+  const Kind kind = attribute.kind();
+  const std::size_t capacity = attribute.capacity();
+  to = putShort(to, attribute.name_, attribute.nameLength());
+  std::memcpy(to, "=\"", 2);
+  to += 2;
+  switch (kind) {
+    case Kind::Int32:
+      to = putDecimal(to, load<std::int32_t>(field));
+      break;
+    case Kind::UInt8:
+      to = putUnsigned(to, std::uint32_t{load<std::uint8_t>(field)});
+      break;
+    case Kind::Text:
+      if (capacity > room - kMostAround) return nullptr;
+      to = putField(to, static_cast<const char*>(field), capacity);
+      break;
+    default:
+      to = putNumber(to, attribute);
+  }
+  std::memcpy(to, "\"\n", 2);
+  return to + 2;
+}
+
+// The same for an attribute of any sort.
+char* BodyIo::put(char* to, const Attribute& attribute, std::size_t room) {
+  const bool isText = attribute.kind() == Kind::Text;
+  if (room < kMostAround + (isText ? attribute.capacity() : kMostNumberText)) return nullptr;
+  to = putOpening(to, attribute);
+  to = isText ? putField(to, static_cast<const char*>(attribute.field_), attribute.capacity())
+              : putNumber(to, attribute);
+  return putClosing(to, attribute);
+}
+
+char* BodyIo::putOpening(char* to, const Attribute& attribute) {
   to = putShort(to, attribute.name_, attribute.nameLength());
   if (attribute.has(Attribute::kBlankBeforeEquals)) *to++ = ' ';
   std::memcpy(to, "=\"", 2);
   return to + 2;
 }
 
-inline char* BodyIo::putClosing(char* to, const Attribute& attribute) {
+char* BodyIo::putClosing(char* to, const Attribute& attribute) {
   std::memcpy(to, "\"\n", 2);
-  if (!attribute.hasAny(Attribute::kThenBlank, Attribute::kThenNothing)) return to + 2;
   if (attribute.has(Attribute::kThenNothing)) return to + 1;
-  to[1] = ' ';
+  if (attribute.has(Attribute::kThenBlank)) to[1] = ' ';
   return to + 2;
 }
 
@@ -203,63 +241,47 @@ void BodyIo::writeValue(const Attribute& attribute) {
   writer_->text(value, static_cast<std::size_t>(putNumber(value, attribute) - value));
 }
 
-inline std::size_t BodyIo::mostOf(const Attribute& attribute) {
-  return attribute.kind() == Kind::Text ? attribute.capacity() : kMostNumberText;
-}
-
-// The two kinds that most attributes have are written here, without a call.
-inline char* BodyIo::putValue(char* to, const Attribute& attribute) {
-  if (attribute.kind() == Kind::Text) {
-    return putField(to, static_cast<const char*>(attribute.field_), attribute.capacity());
-  }
-  if (attribute.kind() == Kind::Int32 && attribute.conversion() != Attribute::kHexadecimal) {
-    return BodyWriter::putDecimal(to, load<std::int32_t>(attribute.field_));
-  }
-  return putNumber(to, attribute);
-}
-
 // A value of any kind but text.
 char* BodyIo::putNumber(char* to, const Attribute& attribute) {
   const void* const field = attribute.field_;
   switch (attribute.kind()) {
     case Kind::Int32:
       if (attribute.conversion() == Attribute::kHexadecimal) break;
-      return BodyWriter::putDecimal(to, load<std::int32_t>(field));
+      return putDecimal(to, load<std::int32_t>(field));
     case Kind::UInt8:
-      return BodyWriter::putUnsigned(to, load<std::uint8_t>(field));
+      return putUnsigned(to, std::uint32_t{load<std::uint8_t>(field)});
     case Kind::UInt64:
-      return putUnsigned(to, attribute, load<std::uint64_t>(field), load<std::int64_t>(field));
+      return putUnsignedOf(to, attribute, load<std::uint64_t>(field), load<std::int64_t>(field));
     case Kind::Float:
-      return BodyWriter::putFixed(to, load<float>(field));
+      return putFixed(to, load<float>(field));
     case Kind::Int32List:
     case Kind::UInt8List:
       return putList(to, attribute);
     default:
       break;
   }
-  return putUnsigned(to, attribute, load<std::uint32_t>(field), load<std::int32_t>(field));
+  return putUnsignedOf(to, attribute, load<std::uint32_t>(field), load<std::int32_t>(field));
 }
 
-char* BodyIo::putUnsigned(char* to, const Attribute& attribute, std::uint64_t value, std::int64_t asSigned) {
+char* BodyIo::putUnsignedOf(char* to, const Attribute& attribute, std::uint64_t value, std::int64_t asSigned) {
   switch (attribute.conversion()) {
     case Attribute::kHexadecimal:
-      return BodyWriter::putHexadecimal(to, value);
+      return putHexadecimal(to, value);
     case Attribute::kAsSigned:
-      return BodyWriter::putDecimal(to, asSigned);
+      return putDecimal(to, asSigned);
     default:
-      return BodyWriter::putUnsigned(to, value);
+      return putUnsigned(to, value);
   }
 }
 
 char* BodyIo::putList(char* to, const Attribute& attribute) {
   const char padding = attribute.padding();
-  const unsigned width = padding == '\0' ? 1 : 2;
   const bool small = attribute.kind() == Kind::UInt8List;
   for (std::size_t i = 0; i < attribute.numbers(); ++i) {
     const void* const field = attribute.field_;
     const std::int32_t number = small ? load<std::uint8_t>(field, i) : load<std::int32_t>(field, i);
     if (i > 0) *to++ = attribute.separator();
-    to = BodyWriter::putPadded(to, number, width, padding);
+    to = putTwoPlaces(to, number, padding);
   }
   return to;
 }

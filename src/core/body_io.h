@@ -79,8 +79,8 @@ class BodyIo {
                          void (*form)(BodyIo&, void*));
 
   // The longest text of a number or list: all of its numbers padded, with a separator behind each.
-  static constexpr std::size_t kMostNumberText = Attribute::kMostNumbers * (BodyWriter::kMostPadded + 1);
-  static_assert(kMostNumberText >= BodyWriter::kMostFixed && kMostNumberText >= BodyWriter::kMostDigits);
+  static constexpr std::size_t kMostNumberText = Attribute::kMostNumbers * (kMostTwoPlaces + 1);
+  static_assert(kMostNumberText >= kMostFixed && kMostNumberText >= kMostDigits);
 
   // What stands around a value at most: the name, a blank, the equals sign, two quotes and what ends it.
   static constexpr std::size_t kMostAround = Attribute::kMostName + 5;
@@ -91,15 +91,15 @@ class BodyIo {
   void write(Attributes attributes);
   void writePieces(const Attribute& attribute);
   void writeValue(const Attribute& attribute);
+  static char* putPlain(char* to, const Attribute& attribute, std::size_t room);
+  static char* put(char* to, const Attribute& attribute, std::size_t room);
   static char* putOpening(char* to, const Attribute& attribute);
   static char* putClosing(char* to, const Attribute& attribute);
-  static std::size_t mostOf(const Attribute& attribute);
-  static char* putValue(char* to, const Attribute& attribute);
   static char* putNumber(char* to, const Attribute& attribute);
-  static char* putUnsigned(char* to, const Attribute& attribute, std::uint64_t value, std::int64_t asSigned);
+  static char* putUnsignedOf(char* to, const Attribute& attribute, std::uint64_t value, std::int64_t asSigned);
   static char* putList(char* to, const Attribute& attribute);
   static bool isWritten(const Attribute& attribute);
-  static bool isWrittenNow(const Attribute& attribute);
+  static bool isNumberSet(const Attribute& attribute);
 
   static void read(const ElementReader& element, Attributes attributes);
   static void readValue(const char* raw, const Attribute& attribute);

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "core/number_text.h"
 #include "core/text.h"
 
 namespace kov {
@@ -40,10 +41,9 @@ class BodyWriter {
     literal(text);
   }
 
-  void decimal(std::int64_t value) { number(&putDecimal, value); }            // "%d", "%lld"
-  void unsignedDecimal(std::uint64_t value) { number(&putUnsigned, value); }  // "%u", "%llu"
-  void hexadecimal(std::uint64_t value) { number(&putHexadecimal, value); }   // "%x", "%llx"
-  void padded(std::int32_t value, unsigned width, char padding);              // "%02d", "%2d"
+  void decimal(std::int32_t value) { number(value, &putDecimal); }            // "%d"
+  void unsignedDecimal(std::uint32_t value) { number(value, &putUnsigned); }  // "%u"
+  void hexadecimal(std::uint64_t value) { number(value, &putHexadecimal); }   // "%llx"
 
   // The length of the whole text, cut or not.
   std::size_t length() const { return written() + cut_; }
@@ -54,33 +54,16 @@ class BodyWriter {
 
   void terminate() { *cursor_ = '\0'; }
 
-  // For a caller that writes what certainly fits itself: where it begins, the room from there on, and where it ended.
+  // For a caller that writes what certainly fits itself: where it begins, where the room ends, and where the text
+  // ended.
   char* cursor() { return cursor_; }
-  std::size_t roomFrom(const char* at) const { return static_cast<std::size_t>(end_ - at); }
+  std::size_t room() const { return static_cast<std::size_t>(end_ - cursor_); }
   void advanceTo(char* end) { cursor_ = end; }
 
-  // The same conversions for that place: each returns the end of what it wrote, which is at most as long as named here.
-  static constexpr std::size_t kMostDigits = 20;
-  static char* putDecimal(char* to, std::int64_t value) {
-    return value >= 0 ? putUnsigned(to, static_cast<std::uint64_t>(value)) : putNegative(to, value);
-  }
-  static char* putUnsigned(char* to, std::uint64_t value) {
-    *to = static_cast<char>('0' + (value & 15));
-    return value < 10 ? to + 1 : putDigits(to, value);
-  }
-  static char* putHexadecimal(char* to, std::uint64_t value);
-  static constexpr std::size_t kMostPadded = 12;  // for a width up to that
-  static char* putPadded(char* to, std::int32_t value, unsigned width, char padding);
-  static constexpr std::size_t kMostFixed = 48;
-  static char* putFixed(char* to, float value);  // "%f"
-
  private:
-  std::size_t room() const { return roomFrom(cursor_); }
   void cut(const char* text, std::size_t length);
-  static char* putNegative(char* to, std::int64_t value);
-  static char* putDigits(char* to, std::uint64_t value);
   template <class Value>
-  void number(char* (*put)(char*, Value), Value value) {
+  void number(Value value, char* (*put)(char*, Value)) {
     char digits[kMostDigits];
     text(digits, static_cast<std::size_t>(put(digits, value) - digits));
   }

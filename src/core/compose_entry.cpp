@@ -3,6 +3,7 @@
 
 #include "core/family_table.h"
 #include "core/frame.h"
+#include "core/header.h"
 #include "kov_platform/services.h"
 
 namespace kov {
@@ -16,46 +17,43 @@ constexpr std::size_t kLeastDocument = 8192;
 // What one call hands down to its steps.
 struct Request {
   Request(const KOV_PROTOCOL_HEADER& from, const void* record, int way)
-      : header(from), type(from.Msg_type), code(from.Msg_code), flag(from.Msg_flag), param(record), direction(way) {}
+      : header(from), type(from.Msg_type), code(from.Msg_code), param(record), direction(way) {}
 
   const KOV_PROTOCOL_HEADER& header;
   const FieldText<sizeof KOV_PROTOCOL_HEADER::Msg_type> type;
   const FieldText<sizeof KOV_PROTOCOL_HEADER::Msg_code> code;
-  const FieldText<sizeof KOV_PROTOCOL_HEADER::Msg_flag> flag;
   const void* param;
   int direction;
   const Family* family = nullptr;  // null: nothing to ask for a body
   std::uint32_t extraLen = 0;
 };
 
-void openEnvelope(BodyWriter& document, const Request& request, const HeaderExtras& extras) {
-  document.literal(
-      "<?xml version=\"1.0\" encoding=\"GB2312\" ?>\n<XML_ZANTIR>\n<MESSAGE_HEADER\n"
-      "Msg_type=\"");
-  document.text(request.type.text(), request.type.length());
-  document.literal("\"\nMsg_code=\"");
-  document.text(request.code.text(), request.code.length());
-  document.literal("\"\nMsg_flag=\"");
-  document.text(request.flag.text(), request.flag.length());
-  document.literal("\"\n");
-  if (extras.length() != 0) {
-    document.text(extras.text(), extras.length());
-    document.character('\n');  // the extras end in a newline of their own
-  }
+// What a family adds to the header goes behind the two optional attributes and shares their 256 bytes.
+int composeExtras(const Request& request, ComposeCall& call, BodyWriter& document, std::size_t used) {
+  if (request.family == nullptr || request.family->headerExtras == nullptr) return KOV_OK;
+  HeaderExtras extras(document.cursor() - used, kExtrasSize, used);
+  const int result = request.family->headerExtras(call, extras);
+  document.advanceTo(document.cursor() - used + extras.length());
+  return result;
+}
+
+int openEnvelope(const Request& request, ComposeCall& call, BodyWriter& document) {
+  document.literal("<?xml version=\"1.0\" encoding=\"GB2312\" ?>\n<XML_ZANTIR>\n<MESSAGE_HEADER\n");
+  KOV_PROTOCOL_HEADER& header = const_cast<KOV_PROTOCOL_HEADER&>(request.header);  // left alone: this writes
+  BodyIo io(document);
+  headerAttributes(io, header);
+  const std::size_t lengthBeforeExtras = document.length();
+  optionalHeaderAttributes(io, header);
+  const int result = composeExtras(request, call, document, document.length() - lengthBeforeExtras);
+  if (document.length() != lengthBeforeExtras) document.character('\n');  // behind the newline of the last extra
   document.literal("/>\n<MESSAGE_BODY>\n");
+  return result;
 }
 
 void closeEnvelope(BodyWriter& document, std::size_t lengthBeforeBody) {
   if (document.length() != lengthBeforeBody) document.character('\n');
   document.literal("</MESSAGE_BODY>\n</XML_ZANTIR>");
   document.terminate();
-}
-
-int composeExtras(const Request& request, ComposeCall& call, HeaderExtras& extras) {
-  extras.lineIfSet("Msg_uuid", request.header.Msg_uuid);
-  extras.lineIfSet("Msg_chn", request.header.Msg_chn);
-  if (request.family == nullptr || request.family->headerExtras == nullptr) return KOV_OK;
-  return request.family->headerExtras(call, extras);
 }
 
 int composeBody(const Family* family, ComposeCall& call, BodyWriter& document) {
@@ -68,13 +66,9 @@ int composeBody(const Family* family, ComposeCall& call, BodyWriter& document) {
 // family's code.
 int composeDocument(Request& request, char* buffer, std::size_t size) {
   ComposeCall call = {request.header, request.code.text(), request.param, request.direction, request.extraLen};
-  char extrasBuffer[kExtrasSize];
-  HeaderExtras extras(extrasBuffer, sizeof extrasBuffer, 0);
   BodyWriter document(buffer, size);
-
-  int result = composeExtras(request, call, extras);
+  int result = openEnvelope(request, call, document);
   if (result == KOV_OK) {
-    openEnvelope(document, request, extras);
     const std::size_t lengthBeforeBody = document.length();
     result = composeBody(request.family, call, document);
     if (result == KOV_OK) {
@@ -82,8 +76,9 @@ int composeDocument(Request& request, char* buffer, std::size_t size) {
       return static_cast<int>(std::min<std::size_t>(document.length(), INT32_MAX));
     }
   }
+  const FieldText flag(request.header.Msg_flag);
   KovProtocolLogError("Msgtype:%s Msg_code:%s Msg_flag:%s Compose failed, nRet : %d\n", request.type.text(),
-                      request.code.text(), request.flag.text(), result);
+                      request.code.text(), flag.text(), result);
   return result;
 }
 
@@ -158,6 +153,9 @@ int composeBare(Request& request, char* out, int outSize) {
 int composeMessage(Request& request, const Encoding& encoding, char* out, int outSize) {
   const FamilyRow* const row = findFamily(request.type.text(), request.type.length(), request.code.text());
   if (request.param != nullptr) {
+    if (row == nullptr && sameText(request.type.text(), TRANSPARENT_CHANNEL_MSG_TYPE)) {
+      return composeTransparent(*static_cast<const TRANSPARENT_HEADER*>(request.param), encoding, out, outSize);
+    }
     if (row == nullptr) {
       KovProtocolLogError("KovProtocolXMLCompose deal a unknow Msg_type:%s Msg_code:%s !!!\n", request.type.text(),
                           request.code.text());
@@ -181,9 +179,5 @@ int KovProtocolXMLCompose(const KOV_PROTOCOL_HEADER* header, const void* param, 
   }
   const kov::Encoding encoding = {encodeMode, key};
   kov::Request request(*header, param, direction);
-  if (param != nullptr && kov::sameText(request.type.text(), TRANSPARENT_CHANNEL_MSG_TYPE)) {
-    return kov::composeTransparent(*static_cast<const TRANSPARENT_HEADER*>(param), encoding, static_cast<char*>(out),
-                                   outSize);
-  }
   return kov::composeMessage(request, encoding, static_cast<char*>(out), outSize);
 }

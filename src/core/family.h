@@ -26,7 +26,6 @@ class HeaderExtras {
     append(name, NameSize - 1, number);
   }
 
-  const char* text() const { return buffer_; }
   std::size_t length() const { return length_; }
 
  private:

@@ -1,10 +1,17 @@
 #include "core/header.h"
 
-#include "core/body_io.h"
 #include "core/record.h"
 #include "kov_platform/services.h"
 
 namespace kov {
+
+void headerAttributes(BodyIo& io, KOV_PROTOCOL_HEADER& r) {
+  io.attributes({{"Msg_type", r.Msg_type}, {"Msg_code", r.Msg_code}, {"Msg_flag", r.Msg_flag}});
+}
+
+void optionalHeaderAttributes(BodyIo& io, KOV_PROTOCOL_HEADER& r) {
+  io.attributes({attr("Msg_uuid", r.Msg_uuid).ifSet(), attr("Msg_chn", r.Msg_chn).ifSet()});
+}
 
 int readMessageHeader(const KovXMLParser& document, KOV_PROTOCOL_HEADER& header) {
   const ElementReader root(document, document.RootElement());
@@ -17,11 +24,9 @@ int readMessageHeader(const KovXMLParser& document, KOV_PROTOCOL_HEADER& header)
     KovProtocolLogError("GetMessageHeader get MESSAGE_HEADER error\n");
     return KOV_ERROR_NO_ELEMENT;
   }
-  BodyIo(element).attributes({{"Msg_type", header.Msg_type},
-                              {"Msg_code", header.Msg_code},
-                              {"Msg_flag", header.Msg_flag},
-                              {"Msg_uuid", header.Msg_uuid},
-                              {"Msg_chn", header.Msg_chn}});
+  BodyIo io(element);
+  headerAttributes(io, header);
+  optionalHeaderAttributes(io, header);
   return KOV_OK;
 }
 

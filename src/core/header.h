@@ -1,10 +1,15 @@
 // The header records, read from a document that has been parsed.
 #pragma once
 
+#include "core/body_io.h"
 #include "core/element_reader.h"
 #include "kov_protocol/kov_protocol.h"
 
 namespace kov {
+
+// The attributes of MESSAGE_HEADER, in both directions: those that it always has, and those that it may have.
+void headerAttributes(BodyIo& io, KOV_PROTOCOL_HEADER& r);
+void optionalHeaderAttributes(BodyIo& io, KOV_PROTOCOL_HEADER& r);
 
 // Reads MESSAGE_HEADER as GetMessageHeader() does.
 int readMessageHeader(const KovXMLParser& document, KOV_PROTOCOL_HEADER& header);

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "kov_platform/byte_block.h"
+
 namespace kov {
 
 // The length of a text in at most `capacity` bytes.
@@ -15,7 +17,14 @@ inline std::size_t boundedLength(const char* text, std::size_t capacity) {
 
 template <std::size_t Capacity>
 std::size_t fieldLength(const char (&field)[Capacity]) {
-  return boundedLength(field, Capacity);
+  constexpr std::size_t kBlock = ByteBlock::kSize;
+  if constexpr (Capacity % kBlock != 0) return boundedLength(field, Capacity);
+  std::size_t length = 0;
+  for (; length < Capacity; length += kBlock) {
+    const std::size_t end = ByteBlock(field + length).find('\0');
+    if (end != kBlock) return length + end;
+  }
+  return length;
 }
 
 // A text field as NUL-terminated text, for comparing and logging: the field itself, or a copy when it has no NUL.
@@ -76,25 +85,21 @@ inline char* putText(char* to, const char* from, std::size_t length) {
   return to + length;
 }
 
-// Copies the text of a field, which ends at its NUL or at its capacity, and returns the end of the copy. It goes word
-// by word and so writes up to `capacity` bytes, however short the text is.
+// Copies the text of a field, which ends at its NUL or at its capacity, and returns the end of the copy. It goes block
+// by block and so writes up to `capacity` bytes, however short the text is.
 inline char* putField(char* to, const char* field, std::size_t capacity) {
-  using Word = std::uintptr_t;
-  constexpr Word kOnes = ~Word{0} / 0xFF;  // 0x01 in every byte
-  for (; capacity >= sizeof(Word); capacity -= sizeof(Word)) {
-    Word word = 0;
-    std::memcpy(&word, field, sizeof word);
-    std::memcpy(to, &word, sizeof word);
-    const Word zeros = (word - kOnes) & ~word & (kOnes << 7);  // its lowest bit belongs to the lowest zero byte
-    if (zeros != 0) {
-      if (__BYTE_ORDER__ != __ORDER_LITTLE_ENDIAN__) break;
-      return to + static_cast<unsigned>(__builtin_ctzll(zeros)) / 8;
-    }
-    field += sizeof word;
-    to += sizeof word;
+  constexpr std::size_t kBlock = ByteBlock::kSize;
+  if (capacity < kBlock) {
+    while (capacity-- != 0 && *field != '\0') *to++ = *field++;
+    return to;
   }
-  for (; capacity != 0 && *field != '\0'; --capacity) *to++ = *field++;
-  return to;
+  for (std::size_t at = 0;; at += kBlock) {
+    if (at > capacity - kBlock) at = capacity - kBlock;  // the last block overlaps the one before
+    const ByteBlock block(field + at);
+    block.store(to + at);
+    const std::size_t end = block.find('\0');
+    if (end != kBlock || at == capacity - kBlock) return to + at + end;
+  }
 }
 
 inline bool sameText(const char* left, const char* right) { return std::strcmp(left, right) == 0; }
