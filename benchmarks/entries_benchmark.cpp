@@ -88,6 +88,7 @@ void addCompose(const Sample& sample) {
   }
   add(work + "snprintf", composePeer, &sample, writeBySnprintf);
   add(work + "fmt", composePeer, &sample, writeByFmt);
+  add(work + "pieces", composePeer, &sample, writePieces);
   add(work + "memcpy", composePeer, &sample, writeByMemcpy);
 }
 

@@ -18,5 +18,6 @@ void storeValue(const PlannedAttribute& attribute, const char* value, char* valu
 // Each prints the document of the plan into `out`.
 void writeBySnprintf(const Sample& sample, char* out, std::size_t size);
 void writeByFmt(const Sample& sample, char* out, std::size_t size);
+void writePieces(const Sample& sample, char* out, std::size_t size);
 
 }  // namespace kov::bench

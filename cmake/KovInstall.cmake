@@ -13,7 +13,7 @@ install(EXPORT kov_protocol-targets NAMESPACE kov:: DESTINATION "${kov_package_d
 
 install(TARGETS kov_platform EXPORT kov_platform-targets ARCHIVE COMPONENT platform)
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/platform/include/kov_platform" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
-        COMPONENT headers FILES_MATCHING PATTERN "*.h")
+        COMPONENT headers FILES_MATCHING PATTERN "*.h" PATTERN "bytes.h" EXCLUDE)
 install(EXPORT kov_platform-targets NAMESPACE kov:: DESTINATION "${kov_package_dir}" COMPONENT platform)
 
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/kov_protocol-config-version.cmake"

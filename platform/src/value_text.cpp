@@ -8,6 +8,8 @@
 #include <cstring>
 #include <limits>
 
+#include "kov_platform/bytes.h"
+
 namespace kov {
 namespace {
 
@@ -222,18 +224,8 @@ bool readFloat(const char* text, float& value) noexcept {
 }
 
 bool readText(const char* text, char* field, std::size_t size) noexcept {
-  constexpr std::size_t kShort = 16;  // up to here a call would cost more than the copy
   if (text == nullptr) return false;
-  const std::size_t first = size - 1 < kShort ? size - 1 : kShort;
-  for (std::size_t i = 0; i < first; ++i) {
-    if ((field[i] = text[i]) == '\0') return true;
-  }
-  const std::size_t room = size - 1 - first;
-  const void* const end = std::memchr(text + first, '\0', room);
-  const std::size_t rest =
-      end != nullptr ? static_cast<std::size_t>(static_cast<const char*>(end) - (text + first)) : room;
-  std::memcpy(field + first, text + first, rest);
-  field[first + rest] = '\0';
+  *putText(field, text, boundedLength(text, size - 1)) = '\0';
   return true;
 }
 

@@ -21,10 +21,10 @@ bool namesSuchACode(const ReceivedText& text) {
 }
 
 // ChannelId=3/> becomes ChannelId="3"/> in those queries. Type, code and attribute are looked for anywhere in the text,
-// as peers rely on; the type first, by its Y, because it spares nearly all texts the rest.
+// as peers rely on; the type first, by its F, because it spares nearly all texts the rest.
 int quoteChannel(ReceivedText& text) {
   constexpr std::size_t kNameLength = sizeof "ChannelId=" - 1;
-  if (!text.contains("SYSTEM_CONFIG_GET_MESSAGE", 1)) return KOV_OK;
+  if (!text.contains("SYSTEM_CONFIG_GET_MESSAGE", 10)) return KOV_OK;
   const std::size_t name = text.find("ChannelId=");
   if (name == ReceivedText::kNowhere) return KOV_OK;
   const std::size_t value = name + kNameLength;

@@ -171,7 +171,7 @@ void BodyIo::write(Attributes attributes) {
   writer_->advanceTo(to);
 }
 
-// Null when it may not fit. Most attributes are plain, and of one of three kinds; what is said of them is loaded before
+// Null when it may not fit. Most attributes are plain, and of one of four kinds; what is said of them is loaded before
 // anything is stored, which might alter it for all that the compiler knows.
 inline char* BodyIo::putPlain(char* to, const Attribute& attribute, std::size_t room) {
   if (room < kMostAround + kMostNumberText) return nullptr;
@@ -184,6 +184,9 @@ inline char* BodyIo::putPlain(char* to, const Attribute& attribute, std::size_t 
   switch (kind) {
     case Kind::Int32:
       to = putDecimal(to, load<std::int32_t>(field));
+      break;
+    case Kind::UInt32:
+      to = putUnsigned(to, load<std::uint32_t>(field));
       break;
     case Kind::UInt8:
       to = putUnsigned(to, std::uint32_t{load<std::uint8_t>(field)});
@@ -289,13 +292,21 @@ char* BodyIo::putList(char* to, const Attribute& attribute) {
 void BodyIo::read(const ElementReader& element, Attributes attributes) {
   if (!element) return;
   for (const Attribute& attribute : attributes) {
-    if (!attribute.has(Attribute::kSkipReading)) readValue(element.attribute(attribute.name_), attribute);
+    if (attribute.has(Attribute::kSkipReading)) continue;
+    if (const char* const raw = element.attribute(attribute.name_)) readValue(raw, attribute);
   }
 }
 
-// Stores what the text says; a text that is missing or unreadable leaves the field alone.
-void BodyIo::readValue(const char* raw, const Attribute& attribute) {
-  if (raw == nullptr) return;
+// Stores what the text says; an unreadable text leaves the field alone.
+inline void BodyIo::readValue(const char* raw, const Attribute& attribute) {
+  if (attribute.kind() == Kind::Text) {
+    readText(raw, static_cast<char*>(attribute.field_), attribute.capacity());
+  } else {
+    readNumber(raw, attribute);
+  }
+}
+
+void BodyIo::readNumber(const char* raw, const Attribute& attribute) {
   void* const field = attribute.field_;
   const bool hexadecimal = attribute.conversion() == Attribute::kHexadecimal;
   switch (attribute.kind()) {
@@ -318,9 +329,6 @@ void BodyIo::readValue(const char* raw, const Attribute& attribute) {
       return;
     case Kind::Float:
       readFloat(raw, *static_cast<float*>(field));
-      return;
-    case Kind::Text:
-      readText(raw, static_cast<char*>(field), attribute.capacity());
       return;
     default:
       return readList(raw, attribute);

@@ -103,6 +103,7 @@ class BodyIo {
 
   static void read(const ElementReader& element, Attributes attributes);
   static void readValue(const char* raw, const Attribute& attribute);
+  static void readNumber(const char* raw, const Attribute& attribute);
   static void readHexadecimal(const char* raw, const Attribute& attribute);
   static void readList(const char* raw, const Attribute& attribute);
 

@@ -1,9 +1,9 @@
 /**
- * @file byte_block.h
- * @brief Several bytes looked at in one step: sixteen where the machine can, else those of a machine word.
+ * @file bytes.h
+ * @brief Short texts looked at and copied by several bytes at a time.
  */
-#ifndef KOV_PLATFORM_BYTE_BLOCK_H
-#define KOV_PLATFORM_BYTE_BLOCK_H
+#ifndef KOV_PLATFORM_BYTES_H
+#define KOV_PLATFORM_BYTES_H
 
 #include <cstddef>
 #include <cstdint>
@@ -17,6 +17,7 @@ namespace kov {
 
 #ifdef __SSE2__
 
+/** Bytes that one step looks at: sixteen where the machine can, else those of a machine word. */
 class ByteBlock {
  public:
   static constexpr std::size_t kSize = 16;
@@ -37,6 +38,7 @@ class ByteBlock {
 
 #else
 
+/** Bytes that one step looks at. */
 class ByteBlock {
   using Word = std::uintptr_t;
 
@@ -64,6 +66,47 @@ class ByteBlock {
 };
 
 #endif
+
+/** The length of a text in at most `capacity` bytes. */
+inline std::size_t boundedLength(const char* text, std::size_t capacity) {
+  const void* end = std::memchr(text, '\0', capacity);
+  return end == nullptr ? capacity : static_cast<std::size_t>(static_cast<const char*>(end) - text);
+}
+
+/**
+ * Copies up to 32 bytes without a call and returns the end of the copy. Two halves that overlap serve every length
+ * between a power of two and the next.
+ */
+inline char* putShort(char* to, const char* from, std::size_t length) {
+  const auto putHalves = [=](auto half) {
+    auto first = half;
+    auto last = half;
+    std::memcpy(&first, from, sizeof half);
+    std::memcpy(&last, from + length - sizeof half, sizeof half);
+    std::memcpy(to, &first, sizeof half);
+    std::memcpy(to + length - sizeof half, &last, sizeof half);
+  };
+  struct SixteenBytes {
+    std::uint64_t words[2];
+  };
+  if (length >= 16) {
+    putHalves(SixteenBytes{});
+  } else if (length >= 8) {
+    putHalves(std::uint64_t{});
+  } else if (length >= 4) {
+    putHalves(std::uint32_t{});
+  } else {
+    for (std::size_t i = 0; i < length; ++i) to[i] = from[i];
+  }
+  return to + length;
+}
+
+/** The same for a text of any length, which is mostly short. */
+inline char* putText(char* to, const char* from, std::size_t length) {
+  if (length <= 32) return putShort(to, from, length);
+  std::memcpy(to, from, length);
+  return to + length;
+}
 
 }  // namespace kov
 
