@@ -14,7 +14,6 @@ char* skipBlanks(char* at) {
   return at;
 }
 
-/** Byte by byte: a wrong guess of where a short name ends is rare, and cheaper than to wait for a computed end. */
 [[gnu::always_inline]] inline char* skipName(char* at) {
   for (;; at += 4) {
     if (!isNameChar(at[0])) return at;
@@ -43,18 +42,26 @@ char* findByte(char* at, char wanted, const char* end) {
   return findByte(at, quote, end);
 }
 
-/** Behind the quote that opens a value, from behind the attribute's name; null when there is none. */
-inline char* openValue(char* at) {
-  if (at[0] == '=' && at[1] == '"') return at + 2;
-  at = skipBlanks(at);
-  if (*at != '=') return nullptr;
-  at = skipBlanks(at + 1);
-  return *at == '"' || *at == '\'' ? at + 1 : nullptr;
-}
+/** Where the parts of `name = "value"` lie; a null quote when it is malformed. */
+struct AttributeText {
+  char* nameEnd;
+  char* value;
+  char* quote;
+};
 
-/** Whether a value may hold the bytes [value, quote). */
-inline bool mayHold([[maybe_unused]] char* value, [[maybe_unused]] const char* quote) {
-  return toleratedEverywhere(Tolerance::MarkupInValue) || findByte(value, '<', quote) == nullptr;
+[[gnu::always_inline]] inline AttributeText scanAttribute(char* name, const char* end) {
+  char* nameEnd = skipName(name);
+  char* at = nameEnd;
+  if (*at != '=') at = skipBlanks(at);
+  if (*at != '=') return {};
+  ++at;
+  if (*at != '"') at = skipBlanks(at);
+  if (*at != '"' && *at != '\'') return {};
+  char* quote = findQuote(at + 1, *at, end);
+  if constexpr (!toleratedEverywhere(Tolerance::MarkupInValue)) {
+    if (quote != nullptr && findByte(at + 1, '<', quote) != nullptr) return {};
+  }
+  return {nameEnd, at + 1, quote};
 }
 
 /** The first "]]>" in [at, end), or null. */
@@ -234,19 +241,16 @@ char* Scanner::attributes(char* at, ElementRecord& element) noexcept {
       break;
     }
     if (name == at && count != 0 && !tolerated(Tolerance::AttributeAtQuote, text + element.name)) return nullptr;
-    char* nameEnd = skipName(name);
-    char* value = openValue(nameEnd);
-    if (value == nullptr) return nullptr;
-    char* quote = findQuote(value, value[-1], end);
-    if (quote == nullptr || !mayHold(value, quote)) return nullptr;
+    const AttributeText found = scanAttribute(name, end);
+    if (found.quote == nullptr) return nullptr;
     if (count == most) return needRoom();
     // Hashed before the stores that the hash's loads would have to wait for.
-    const std::uint32_t hash = hashEnds(name, static_cast<std::size_t>(nameEnd - name));
-    *nameEnd = '\0';
-    *quote = '\0';
-    records[count] = {static_cast<Word>(name - text), static_cast<Word>(value - text)};
+    const std::uint32_t hash = hashEnds(name, static_cast<std::size_t>(found.nameEnd - name));
+    *found.nameEnd = '\0';
+    *found.quote = '\0';
+    records[count] = {static_cast<Word>(name - text), static_cast<Word>(found.value - text)};
     if (count < NameSet::kCapacity && !names_.add(name, first + count * kAttributeWords, first, hash)) return nullptr;
-    at = quote + 1;
+    at = found.quote + 1;
   }
   used_ = first + count * kAttributeWords;
   element.shape += count * ElementRecord::kOneAttribute;
