@@ -74,8 +74,12 @@ char* putLarge(char* to, std::uint32_t value) {
 }
 
 char* putUnsigned(char* to, std::uint64_t value) {
+  const auto belowBillion = [](std::uint64_t part) { return static_cast<std::uint32_t>(part % kBillion); };
   if (value <= UINT32_MAX) return putUnsigned(to, static_cast<std::uint32_t>(value));
-  return putNineDigits(putUnsigned(to, value / kBillion), static_cast<std::uint32_t>(value % kBillion));
+  const std::uint64_t upper = value / kBillion;
+  if (upper < kBillion) return putNineDigits(putUnsigned(to, belowBillion(upper)), belowBillion(value));
+  to = putUnsigned(to, static_cast<std::uint32_t>(upper / kBillion));
+  return putNineDigits(putNineDigits(to, belowBillion(upper)), belowBillion(value));
 }
 
 char* putDecimal(char* to, std::int64_t value) {
