@@ -69,6 +69,14 @@ TEST(BodyWriterTest, FloatsReadAsPrintfWritesThem) {
   }
 }
 
+// The longest name, with all that may stand around a value.
+template <class Field>
+Attribute surrounded(Field& field) {
+  return attr("NameOfThirtyOneCharactersInAll_", field).blankBeforeEquals().thenBlank();
+}
+
+std::string surroundedText(const std::string& value) { return "NameOfThirtyOneCharactersInAll_ =\"" + value + "\" "; }
+
 TEST(BodyIoTest, TextsEndAtTheirNulOrTheirCapacity) {
   struct Record {
     char text[19];
@@ -78,15 +86,33 @@ TEST(BodyIoTest, TextsEndAtTheirNulOrTheirCapacity) {
     for (std::size_t length = 0; length <= sizeof record->text; ++length) {
       std::memset(record->text, fill, sizeof record->text);
       if (length < sizeof record->text) record->text[length] = '\0';
-      const std::string expected = "t=\"" + std::string(length, fill) + "\"\n";
+      const std::string expected = surroundedText(std::string(length, fill));
       for (const std::size_t size : {expected.size() + 1, std::size_t{100}}) {
         const std::unique_ptr<char[]> buffer(new char[size]);
         BodyWriter writer(buffer.get(), size);
-        BodyIo(writer).attributes({{"t", record->text}});
+        BodyIo(writer).attributes({surrounded(record->text)});
         writer.terminate();
         EXPECT_EQ(buffer.get(), expected);
       }
     }
+  }
+}
+
+TEST(BodyIoTest, ListsAreCutAtTheEndOfTheirBuffer) {
+  std::int32_t numbers[15];
+  std::string list;
+  for (std::int32_t& number : numbers) {
+    number = INT_MIN;
+    list += "-2147483648,";
+  }
+  list.pop_back();
+  const std::string expected = surroundedText(list);
+  for (std::size_t room = 0; room <= expected.size(); ++room) {
+    const std::unique_ptr<char[]> buffer(new char[room + 1]);
+    BodyWriter writer(buffer.get(), room + 1);
+    BodyIo(writer).attributes({surrounded(numbers)});
+    writer.terminate();
+    EXPECT_EQ(buffer.get(), expected.substr(0, room));
   }
 }
 
