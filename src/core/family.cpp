@@ -19,10 +19,8 @@ void HeaderExtras::append(const char* name, std::size_t nameLength, const char* 
 }
 
 void HeaderExtras::append(const char* name, std::size_t nameLength, std::int32_t number) {
-  char digits[12];
-  BodyWriter text(digits, sizeof digits);
-  text.decimal(number);
-  append(name, nameLength, digits, text.written());
+  char digits[BodyWriter::kMostDigits];
+  append(name, nameLength, digits, static_cast<std::size_t>(BodyWriter::putDecimal(digits, number) - digits));
 }
 
 const CodeRow* CodeTable::lookUp(int code) const {
