@@ -95,7 +95,7 @@ TEST_F(SystemConfigGeneralTest, OverlayAnswerEndsAtTheFirstUnusedEntry) {
 TEST_F(SystemConfigGeneralTest, BareNumbersStandBeforeTheirList) {
   const std::string stored = golden("system_config/overlays_set.txt");
   const std::string one = stored.substr(stored.rfind("<Overlay\n"));
-  for (const std::string bare : {"", "Channel=\"5\"", "ChannelCounts=\"5\"", "ChannelCount=\"\"", "ChannelCount"}) {
+  for (const std::string bare : {"", "Channels = \"5\"", "ChannelCounts=\"5\"", "ChannelCount=\"\"", "ChannelCount"}) {
     EXPECT_EQ(readBody<SYSTEM_CONFIG_GET_2550_PARAM>("2555", bare + one + one + one)->ChannelCount, 3) << bare;
   }
   EXPECT_EQ(readBody<SYSTEM_CONFIG_GET_2550_PARAM>("2555", "ChannelCount = '5' " + one)->ChannelCount, 5);
