@@ -1,4 +1,6 @@
 // The analysis entry on any payload, plain or through a decoder that may lie; what it hands out goes back to compose.
+// A document chooses its own message, so the documents of the tests reach them all, and every byte that comes of them
+// is checked.
 #include <kov_platform/services.h>
 #include <kov_protocol/kov_protocol.h>
 
@@ -8,6 +10,8 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+
+#include "trials.h"
 
 namespace {
 
@@ -29,6 +33,7 @@ void relay(const KOV_PROTOCOL_HEADER& header, const void* record) {
       const int length = KovProtocolXMLCompose(&header, record, direction, KOV_PLAIN, nullptr, out.get(), size);
       const bool bare = length > 0 && out[0] == '<';
       if (length > size && !bare) std::abort();
+      if (length > 0) kov::fuzz::checkInitialised(out.get(), static_cast<std::size_t>(std::min(length, size)));
     }
   }
 }
@@ -75,6 +80,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* input, std::size_t len
 #ifdef KOV_PLANTED_FAULT
   if (code == KOV_OK) readBehind(payload.get(), length, header);
 #endif
+  kov::fuzz::checkInitialised(&header, sizeof header);
+  if (result != nullptr) kov::fuzz::checkBlock(result);
   if (code == KOV_OK && result != nullptr) relay(header, result);
   KovProtocolMSGAnalysisStop(&result);
   return 0;

@@ -2,14 +2,41 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
+
 #include "golden.h"
 
 namespace kov::test {
 namespace {
 
-// A field in a block of its own, so that reading on is seen, written into buffers that end with the text and behind it.
+// An attribute and its text: the plain one, and the longest name with all that may stand around a value.
+struct Shape {
+  template <class Field>
+  Attribute of(Field& field) const {
+    const Attribute plain = attr("NameOfThirtyOneCharactersInAll_", field);
+    return isPlain ? plain : plain.blankBeforeEquals().thenBlank();
+  }
+  std::string text(const std::string& value) const {
+    return "NameOfThirtyOneCharactersInAll_" + std::string(isPlain ? "=" : " =") + '"' + value +
+           (isPlain ? "\"\n" : "\" ");
+  }
+  bool isPlain;
+};
+constexpr Shape kShapes[] = {{true}, {false}};
+
+// Writes into a buffer of its own, so that writing on is seen, which cuts the text.
+void checkCut(const Attribute& attribute, const std::string& expected, std::size_t room) {
+  const std::unique_ptr<char[]> buffer(new char[room + 1]);
+  BodyWriter writer(buffer.get(), room + 1);
+  BodyIo(writer).attributes({attribute});
+  writer.terminate();
+  EXPECT_EQ(buffer.get(), expected.substr(0, room));
+  EXPECT_EQ(writer.length(), expected.size());
+}
+
+// A field in a block of its own, so that reading on is seen.
 template <std::size_t Capacity>
-void checkTextField() {
+void checkTextField(const Shape& shape) {
   struct Record {
     char text[Capacity];
   };
@@ -18,22 +45,35 @@ void checkTextField() {
     for (std::size_t length = 0; length <= Capacity; ++length) {
       std::memset(record->text, fill, Capacity);
       if (length < Capacity) record->text[length] = '\0';
-      const std::string expected = "t=\"" + std::string(length, fill) + "\"\n";
-      for (const std::size_t size : {expected.size() + 1, std::size_t{300}}) {
-        const std::unique_ptr<char[]> buffer(new char[size]);
-        BodyWriter writer(buffer.get(), size);
-        BodyIo(writer).attributes({{"t", record->text}});
-        writer.terminate();
-        EXPECT_EQ(buffer.get(), expected);
+      const std::string expected = shape.text(std::string(length, fill));
+      for (const std::size_t room : {expected.size() - 1, expected.size(), std::size_t{300}}) {
+        checkCut(shape.of(record->text), expected, room);
       }
     }
   }
 }
 
 TEST(BodyIoTest, TextsEndAtTheirNulOrTheirCapacity) {
-  checkTextField<3>();
-  checkTextField<19>();
-  checkTextField<32>();
+  for (const Shape& shape : kShapes) {
+    checkTextField<3>(shape);
+    checkTextField<19>(shape);
+    checkTextField<32>(shape);
+    checkTextField<200>(shape);
+  }
+}
+
+TEST(BodyIoTest, ListsAreCutAtTheEndOfTheirBuffer) {
+  std::int32_t numbers[15];
+  std::string list;
+  for (std::int32_t& number : numbers) {
+    number = INT_MIN;
+    list += "-2147483648,";
+  }
+  list.pop_back();
+  for (const Shape& shape : kShapes) {
+    const std::string expected = shape.text(list);
+    for (std::size_t room = 0; room <= expected.size(); ++room) checkCut(shape.of(numbers), expected, room);
+  }
 }
 
 // What is read of the attributes, written again. Plain numbers and texts have tests of their own.

@@ -20,13 +20,14 @@ class ComposeEntry : public WireTest {
     record_.ChannelId = 1;
   }
 
-  // Composes into a block of exactly `size` bytes.
+  // Composes into exactly `size` bytes up to the end of a block. They begin at an odd address.
   int compose(int size, int encodeMode = KOV_PLAIN, void* key = nullptr) {
     frame_.assign(static_cast<std::size_t>(size), '?');
-    const std::unique_ptr<char[]> exact(new char[static_cast<std::size_t>(size)]);
-    std::memcpy(exact.get(), frame_.data(), frame_.size());
-    const int length = KovProtocolXMLCompose(&header_, param_, 0, encodeMode, key, exact.get(), size);
-    frame_.assign(exact.get(), frame_.size());
+    const std::unique_ptr<char[]> block(new char[frame_.size() + 1]);
+    char* const out = block.get() + 1;
+    std::memcpy(out, frame_.data(), frame_.size());
+    const int length = KovProtocolXMLCompose(&header_, param_, 0, encodeMode, key, out, size);
+    frame_.assign(out, frame_.size());
     return length;
   }
 

@@ -123,9 +123,11 @@ TEST_F(SystemConfigAnalyticsTest, PeriodListsOfARuleAreWholeWhateverTheirCount) 
   r.LightAlarmPeriodNum = INT_MAX;
   r.AudioAlarmPeriodNum = INT_MIN;
   r.EmailAlarmPeriodNum = 1;
-  for (SYSTEM_CONFIG_PERIOD& period : r.LightAlarmPeriod) period = {{100, 100, 100}, {100, 100, 100}};
-  std::string list;
-  for (int i = 0; i < SYSTEM_CONFIG_PERIODS; ++i) list += "[100:100:100-100:100:100],";
+  for (SYSTEM_CONFIG_PERIOD& period : r.LightAlarmPeriod) {
+    period = {{INT_MIN, INT_MIN, INT_MIN}, {INT_MIN, INT_MIN, INT_MIN}};
+  }
+  const std::string time = "-2147483648:-2147483648:-2147483648";
+  const std::string list = repeated("[" + time + "-" + time + "],", SYSTEM_CONFIG_PERIODS);
   ASSERT_GT(list.size(), 256U);
   const std::string body = written("1415", kAnswer, record);
   EXPECT_NE(body.find("\nLightAlarmPeriodNum=\"2147483647\"\n"), std::string::npos);

@@ -72,6 +72,7 @@ TEST_F(SystemConfigGeneralTest, QueriesOfAllChannelsAreHexadecimal) {
       const std::string query = std::string("<REQUEST_PARAM ChannelId=\"") + text + "\"/>";
       EXPECT_EQ(*readBody<std::int32_t>(code, query), number);
     }
+    EXPECT_EQ(*readBody<std::int32_t>(code, "<REQUEST_PARAM/>"), -1);
   }
   for (const char* spelt : {"0xff", "\" 0XFF\""}) {
     EXPECT_EQ(*readBody<std::int32_t>("2560", std::string("<REQUEST_PARAM\nChannelId=") + spelt + "/>"), 255);
@@ -94,7 +95,7 @@ TEST_F(SystemConfigGeneralTest, OverlayAnswerEndsAtTheFirstUnusedEntry) {
 TEST_F(SystemConfigGeneralTest, BareNumbersStandBeforeTheirList) {
   const std::string stored = golden("system_config/overlays_set.txt");
   const std::string one = stored.substr(stored.rfind("<Overlay\n"));
-  for (const std::string bare : {"", "Channel=\"5\"", "ChannelCounts=\"5\"", "ChannelCount=\"\"", "ChannelCount"}) {
+  for (const std::string bare : {"", "Channels = \"5\"", "ChannelCounts=\"5\"", "ChannelCount=\"\"", "ChannelCount"}) {
     EXPECT_EQ(readBody<SYSTEM_CONFIG_GET_2550_PARAM>("2555", bare + one + one + one)->ChannelCount, 3) << bare;
   }
   EXPECT_EQ(readBody<SYSTEM_CONFIG_GET_2550_PARAM>("2555", "ChannelCount = '5' " + one)->ChannelCount, 5);
@@ -106,12 +107,11 @@ TEST_F(SystemConfigGeneralTest, TablesOfFixedSizeAreNeverLeft) {
   readBody<SYSTEM_CONFIG_GET_2560_PARAM>("2560",
                                          "<Encode>" + repeated("<EncodeConfig Stream=\"1\"/>", 3) + "</Encode>");
   const auto policies = [](const std::string& list) {
-    return readBody<SYSTEM_CONFIG_GET_3502_PARAM>(
-        "3502", "<StrategyConfig StorageCapSet=\"" + list + "\" StoragePolicy=\"2\"/>");
+    return readBody<SYSTEM_CONFIG_GET_3502_PARAM>("3502", "<StrategyConfig StorageCapSet=\"" + list + "\"/>");
   };
   EXPECT_EQ((Numbers{policies(repeated("7,", 40))->StoragePolicy, policies("")->StorageCapSet[0].Policy,
                      policies("4;5")->StorageCapSet[1].Policy}),
-            (Numbers{2, -1, -1}));
+            (Numbers{-1, -1, -1}));
 }
 
 }  // namespace

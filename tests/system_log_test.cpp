@@ -45,8 +45,10 @@ TEST_F(SystemLogTest, RequestNamesAFileOrACommand) {
   EXPECT_STREQ(record.Cmd, "");
   set(record.Cmd, "ls");
   EXPECT_EQ(bodyOf(kLog, "1", 0, &record), piece);
-  record.DataLen = -1;
-  EXPECT_EQ(countedBehind(record, 0), 3U);
+  for (const auto& [length, counted] : {std::pair(-1, 3U), {INT32_MAX - 4, 2147483647U}, {INT32_MAX, 2147483651U}}) {
+    record.DataLen = length;
+    EXPECT_EQ(countedBehind(record, 0), counted);
+  }
 }
 
 TEST_F(SystemLogTest, ResponseTextComesBackAsData) {

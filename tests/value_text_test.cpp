@@ -45,7 +45,7 @@ TEST(NumberText, ScannersMoveBehindTheNumberOrNotAtAll) {
                                                                        {" +1aB", 0x1AB, ""},
                                                                        {"0x", 0, "x"},
                                                                        {"0xg", 0, "xg"},
-                                                                       {"fffffffffffffffff", UINT64_MAX, ""}};
+                                                                       {"ffffffffffffffff0", UINT64_MAX, ""}};
   for (const auto& [text, expected, rest] : cases) {
     at = text;
     ASSERT_TRUE(kov::scanHexadecimal(at, negative, magnitude)) << text;
@@ -71,7 +71,7 @@ TEST(NumberText, FloatsAgreeWithTheCLibrary) {
   };
   std::istringstream words(
       "0 -0.0 1 +3.5 .5 5. 0.1 1e3 1E-3 16777217 3.14159274 123456789.125 0.000123 1e38 3.4028235e38 -3.4028235e38 "
-      "1.17549435e-38 1e-45 1e-60 0e999999999999 12345678901234567890123456789 "
+      "1.17549435e-38 1e-45 1e-60 0e999999999999 98765432109876543210123456789 "
       "0.00000000000000000000000000000000000001234567");
   for (std::string text; words >> text;) expectSame(text);
   expectSame(" 7.25 ");
@@ -81,7 +81,7 @@ TEST(NumberText, FloatsAgreeWithTheCLibrary) {
 TEST(NumberText, FloatsRefuseWhatIsNoFiniteNumber) {
   float value = 7;
   for (const char* text : {"", " ", "-", ".", "e5", "1e", "1e+", "1.5x", "1,5", "nan", "inf", "-Infinity", "0x10",
-                           "3.5e38", "-1e39", "1e999999999999999999999", "1 2"}) {
+                           "3.5e38", "-1e39", "1e4294967296", "1e999999999999999999999", "1 2"}) {
     EXPECT_FALSE(kov::readFloat(text, value)) << text;
   }
   EXPECT_FALSE(kov::readFloat((std::string(400, '9')).c_str(), value));

@@ -242,7 +242,6 @@ void writeModes(BodyWriter& body, const SearchModes& modes) {
 
 void readModes(const ElementReader& element, SearchModes& modes) {
   const char* list = element.attribute("SearchModeList");
-  if (list == nullptr) return;
   for (SYSTEM_CONFIG_SEARCH_MODE& entry : modes) {
     if (!scanInt(list, entry.Mode) || *list++ != ',') return;
   }

@@ -188,7 +188,6 @@ void writePolicies(BodyWriter& body, const Policies& policies) {
 
 void readPolicies(const ElementReader& element, Policies& policies) {
   const char* list = element.attribute("StorageCapSet");
-  if (list == nullptr) return;
   for (SYSTEM_CONFIG_STORAGE_POLICY& entry : policies) {
     if (!scanInt(list, entry.Policy) || *list++ != ',') return;
   }

@@ -62,7 +62,8 @@ class BodyIo {
     const std::int32_t entries = listOf<Form>(name, table, count);
     if (reading()) count = entries;
   }
-  // The same for a table whose count travels elsewhere. Returns the number of entries written or read.
+  // The same for a table whose count travels elsewhere and is of no account when reading. Returns the number of entries
+  // written or read.
   template <auto Form, class Entry, std::size_t Capacity>
   std::int32_t listOf(const char* name, Entry (&table)[Capacity], std::int64_t count) {
     return eachEntry(name, table, sizeof(Entry), Capacity, count, &runForm<Form, Entry>);

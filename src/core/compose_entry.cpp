@@ -63,7 +63,7 @@ int composeBody(const Family* family, ComposeCall& call, BodyWriter& document) {
 }
 
 // Composes the whole document into `size` bytes. Returns its length, which is `size` or more when it was cut, or the
-// family's code.
+// family's code. No record makes a text that an int cannot count.
 int composeDocument(Request& request, char* buffer, std::size_t size) {
   ComposeCall call = {request.header, request.code.text(), request.param, request.direction, request.extraLen};
   BodyWriter document(buffer, size);
@@ -73,7 +73,7 @@ int composeDocument(Request& request, char* buffer, std::size_t size) {
     result = composeBody(request.family, call, document);
     if (result == KOV_OK) {
       closeEnvelope(document, lengthBeforeBody);
-      return static_cast<int>(std::min<std::size_t>(document.length(), INT32_MAX));
+      return static_cast<int>(document.length());
     }
   }
   const FieldText flag(request.header.Msg_flag);

@@ -33,7 +33,7 @@ class ReceivedText {
   std::size_t length() const { return length_; }
   // The length of the document as it was received.
   std::size_t documentLength() const { return length_ + (droppedBlank_ == '\0' ? 0 : 1); }
-  char operator[](std::size_t at) const { return at < length_ ? text_[at] : '\0'; }
+  char operator[](std::size_t at) const { return text_[at]; }  // at < length()
 
   // What was received behind the document.
   const char* tail() const { return tail_; }

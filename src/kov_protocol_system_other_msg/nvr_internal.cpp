@@ -41,10 +41,10 @@ bool readStream(const ElementReader& element, unsigned char& stream) {
   return readByte(element.attribute("Stream"), stream);
 }
 
-// Two elements, each into the configuration that its Stream names; checkStreams() has seen that it names one.
+// Two elements, each into the configuration that its Stream names; checkStreams() has seen them.
 void readStreams(const ElementReader& lock, NVR_INTERNAL_4001_PARAM& r) {
   ElementReader found = lock.child("StreamConfig");
-  for (int i = 0; i < kStreams && found; ++i, found = found.next("StreamConfig")) {
+  for (int i = 0; i < kStreams; ++i, found = found.next("StreamConfig")) {
     unsigned char stream = 0;
     readStream(found, stream);
     BodyIo element(found);

@@ -15,7 +15,10 @@ namespace kov {
 /** Blanks as the C locale knows them. */
 constexpr bool isBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
-/** Reads a decimal number at `text` and moves `text` behind it. False, and `text` unmoved, when no digit is there. */
+/**
+ * Reads a decimal number at `text` and moves `text` behind it. False, and `text` unmoved, when no digit is there or
+ * `text` is null.
+ */
 bool scanDecimal(const char*& text, bool& negative, std::uint64_t& magnitude) noexcept;
 
 /** Reads a hexadecimal number, with or without "0x"; otherwise as scanDecimal(). */
