@@ -52,6 +52,25 @@ TEST_F(SessionTest, HeartbeatKeepsToItsBufferAndDropsWholeLines) {
                                          HeartbeatMessageCompose(&header, nullptr, extras, 0, 0)});
 }
 
+// The lines of a family share their 256 bytes with the two that any message may have.
+TEST_F(SessionTest, HeartbeatLeavesOutTheLineThatIsTooLongForTheHeader) {
+  KOV_PROTOCOL_HEADER header;
+  set(header.Msg_type, KOV_HEARTBEAT_MESSAGE_TYPE);
+  set(header.Msg_code, HEARTBEAT_MESSAGE_CODE);
+  set(header.Msg_uuid, std::string(62, 'u'));
+  set(header.Msg_chn, std::string(20, 'c'));
+  Heartbeat record;
+  set(record.Ipcs_stat, std::string(64, 'i'));
+  for (const std::size_t length : {58U, 59U}) {  // 74 + 31 + 77 bytes before it, 15 more of its own, and a NUL
+    set(record.IpcAbility1, std::string(length, 'a'));
+    std::vector<char> out(8192);
+    ASSERT_GT(KovProtocolXMLCompose(&header, &record, 0, KOV_PLAIN, nullptr, out.data(), 8192), 0);
+    const std::string expected = "Msg_chn=\"" + std::string(20, 'c') + "\"\nIpcs_stat=\"" + record.Ipcs_stat + "\"\n" +
+                                 (length == 58 ? "IpcAbility1=\"" + std::string(58, 'a') + "\"\n" : "") + "\n/>\n";
+    EXPECT_NE(std::string(out.data() + 8).find(expected), std::string::npos) << out.data() + 8;
+  }
+}
+
 TEST_F(SessionTest, LoginTellsTheVendorButDoesNotReadIt) {
   auto read = analysed<Login>(kLogin, "1", golden("session/login_method.txt"));
   EXPECT_STREQ(read.Password, "a<&b");
