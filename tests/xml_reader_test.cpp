@@ -9,6 +9,7 @@
 #include <string>
 #include <utility>
 
+#include "../platform/src/xml_grammar.h"
 #include "../platform/src/xml_name_set.h"
 #include "allocation_probe.h"
 #include "golden.h"
@@ -78,6 +79,17 @@ TEST(XmlGrammar, RefusesEveryProperPrefix) {
   const std::string whole = "<?xml version=\"1.0\"?><A b=\"1\"><!--c--><B>t<C/></B><![CDATA[d]]><?p q?></A>";
   ASSERT_TRUE(accepts(whole));
   for (std::size_t length = 0; length < whole.size(); ++length) EXPECT_FALSE(accepts(whole.substr(0, length)));
+}
+
+TEST(XmlGrammar, NamesEndAtTheFirstByteOfAnotherClass) {
+  for (int c = 0; c < 256; ++c) {
+    for (std::size_t at = 0; at < 20; ++at) {
+      std::string text = std::string(20, 'n') + '=' + std::string(kov::xml::kNameBlock, '\0');
+      text[at] = static_cast<char>(c);
+      const auto length = static_cast<std::size_t>(kov::xml::skipName(text.data()) - text.data());
+      EXPECT_EQ(length, kov::xml::isNameChar(static_cast<char>(c)) ? 20 : at) << c;
+    }
+  }
 }
 
 TEST(XmlGrammar, NestsSixtyFourLevels) {

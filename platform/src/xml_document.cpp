@@ -12,8 +12,10 @@
 namespace kov::xml {
 namespace {
 
-/** Bytes of the text area: the text and at least one NUL, in whole words. */
-std::size_t textArea(std::size_t length) { return (length + sizeof(Word)) / sizeof(Word) * sizeof(Word); }
+/** Bytes of the text area: the text and the NULs behind it, in whole words. */
+std::size_t textArea(std::size_t length) {
+  return (length + kNameBlock + sizeof(Word) - 1) / sizeof(Word) * sizeof(Word);
+}
 
 /** Record words that suffice for messages: they take less than one and a half bytes of records per byte of text. */
 std::size_t usualWords(std::size_t length) { return length / 2 + 4 * kElementWords; }
@@ -30,7 +32,7 @@ std::size_t mostWords(std::size_t length) { return length; }
 KovXMLParser::Document::Document(const char* text, std::size_t length) noexcept
     : text_(reinterpret_cast<char*>(this + 1)), words_(reinterpret_cast<Word*>(text_ + kov::xml::textArea(length))) {
   std::memcpy(text_, text, length);
-  text_[length] = '\0';
+  std::memset(text_ + length, '\0', kov::xml::kNameBlock);
 }
 
 KovXMLParser::Document* KovXMLParser::Document::parse(const char* text) noexcept {

@@ -2,7 +2,7 @@
  * @file xml_document.h
  * @brief One parsed document: a private copy of its text and, behind that, its records, in a single heap block.
  *
- *     Document | text, NUL, padding | records in document order ...
+ *     Document | text, NULs, padding | records in document order ...
  *
  * An element's attributes stand directly behind its record and its first child directly behind those, so neither needs
  * a link. Records hold offsets into the text, where every name, value and trimmed text has been terminated in place.

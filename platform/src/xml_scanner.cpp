@@ -14,15 +14,6 @@ char* skipBlanks(char* at) {
   return at;
 }
 
-[[gnu::always_inline]] inline char* skipName(char* at) {
-  for (;; at += 4) {
-    if (!isNameChar(at[0])) return at;
-    if (!isNameChar(at[1])) return at + 1;
-    if (!isNameChar(at[2])) return at + 2;
-    if (!isNameChar(at[3])) return at + 3;
-  }
-}
-
 /** The first `wanted` in [at, end), or null. */
 char* findByte(char* at, char wanted, const char* end) {
   return static_cast<char*>(std::memchr(at, wanted, static_cast<std::size_t>(end - at)));

@@ -15,8 +15,9 @@
 namespace kov::xml {
 
 /**
- * Scans a NUL-terminated text once, without recursion. Each step takes the position of its first byte and returns the
- * one behind its last, or null when the text is not well-formed. A NUL is written only over bytes already read.
+ * Scans a text with kNameBlock NULs behind it once, without recursion. Each step takes the position of its first byte
+ * and returns the one behind its last, or null when the text is not well-formed. A NUL is written only over bytes
+ * already read.
  */
 class Scanner {
  public:
