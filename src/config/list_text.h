@@ -16,7 +16,7 @@ enum class ListText : unsigned char { Whole, Cut };
 struct EntryShape {
   const char* behind;  // what follows each number, up to the closing bracket
   std::size_t numbers;
-  char padding;  // of a number to two places
+  char padding;  // of a number to two places; NUL: none
 };
 extern const EntryShape kPeriodEntry;  // [08:00:00-17:30:00]
 extern const EntryShape kPointEntry;   // [640,360]
