@@ -49,7 +49,7 @@ inline std::uint32_t hashName(const char* name, std::size_t length) {
 class NameSet {
  public:
   /** Elements with more attributes are checked as a whole when their tag ends, see allDistinct(). */
-  static constexpr Word kCapacity = 64;
+  static constexpr Word kCapacity = 96;
 
   NameSet(const char* text, const Word* words) noexcept : text_(text), words_(words) {}
 
@@ -59,7 +59,7 @@ class NameSet {
    * the element has an attribute of that name.
    */
   bool add(const char* name, Word index, Word first, std::uint32_t hash) noexcept {
-    Word slot = hash >> 25;
+    Word slot = hash >> 24;
     for (; slots_[slot] >= first; slot = (slot + 1) % kSlots) {
       if (std::strcmp(text_ + words_[slots_[slot]], name) == 0) return false;
     }
@@ -68,7 +68,7 @@ class NameSet {
   }
 
  private:
-  static constexpr Word kSlots = 2 * kCapacity;
+  static constexpr Word kSlots = 256;
 
   const char* text_;
   const Word* words_;
