@@ -22,7 +22,8 @@ void addCodes(const FamilyRow& family, std::vector<TestedMessage>& messages) {
   for (std::size_t i = 0; i < table.groupCount(); ++i) {
     for (const CodeRow& row : table.group(i)) {
       if (row.message != nullptr) {
-        messages.push_back({family.msgType, std::to_string(row.code), row.message->record(), nullptr, &table});
+        messages.push_back(
+            {family.msgType, std::to_string(row.code), row.message->record(), nullptr, &table, row.message});
       }
     }
   }

@@ -1,8 +1,6 @@
 #include "kov_protocol/nvr_produce_test.h"
 
-#include <tuple>
-
-#include "listed_texts.h"
+#include "trials.h"
 
 namespace kov::test {
 namespace {
@@ -12,8 +10,6 @@ const std::string kType = NVR_PRODUCE_TEST_MESSAGE_TYPE;
 class NvrProduceTest : public WireTest {};
 
 std::string textOf(const std::string& file) { return golden("production/" + file + ".txt"); }
-
-TEST_F(NvrProduceTest, TextsComeBackAndTheNewerEndWithoutNewline) { expectListedTexts(kType, "production"); }
 
 TEST_F(NvrProduceTest, AudioUsesOneElementInBothDirections) {
   const auto read = analysed<NVR_PRODUCE_TEST_4003_PARAM>(
@@ -41,30 +37,6 @@ TEST_F(NvrProduceTest, VerdictOfTheStationDoesNotReadTheClocks) {
   EXPECT_EQ(record.Results.AgingAvgDuration, UINT32_MAX);
   record.Results.RtcTimeResult = 1;
   EXPECT_EQ(bodyOf(kType, "4008", 0, &record), textOf("verdict"));
-}
-
-TEST_F(NvrProduceTest, MissingElementsHaveACodeAndNamesOfTheirOwn) {
-  const std::tuple<const char*, const char*, int (*)(const char*, void**)> rows[] = {
-      {"4002", "LedControl_MessageAnalysis get LedControl", NvrProduceTest_LedControl_MessageAnalysis},
-      {"4003", "AudioTest_MessageAnalysis get AudioControl", NvrProduceTest_AudioTest_MessageAnalysis},
-      {"4005", "VGA_HMDI_Test_MessageAnalysis get ScreenControl", NvrProduceTest_VGA_HMDI_Test_MessageAnalysis},
-      {"4006", "ReportResult_MessageAnalysis get SelfTestResult", NvrProduceTest_ReportResult_MessageAnalysis},
-      {"4007", "GetNvrSystemTime_MessageAnalysis get TestResult", NvrProduceTest_GetNvrSystemTime_MessageAnalysis},
-      {"4008", "SendTestReuslt_MessageAnalysis get TestResult", NvrProduceTest_SendTestReuslt_MessageAnalysis},
-      {"4010", "GetNvrTestAbality_MessageAnalysis get ProductAbility",
-       NvrProduceTest_GetNvrTestAbality_MessageAnalysis},
-      {"4011", "GetOtherParam_MessageAnalysis get ProductAbility", NvrProduceTest_GetOtherParam_MessageAnalysis},
-  };
-  for (const auto& [code, line, analysis] : rows) {
-    resetPlatform();
-    void* result = nullptr;
-    const std::string xml = received(kType, code, "");
-    EXPECT_EQ(analysis(xml.c_str(), &result), KOV_ERROR_NO_TEST_ELEMENT);
-    EXPECT_EQ(NvrProduceTestMessageAnalysis(xml.c_str(), code, &result), KOV_ERROR_NO_TEST_ELEMENT);
-    EXPECT_EQ(analysisCode(kType, code, ""), KOV_ERROR_NO_TEST_ELEMENT);
-    EXPECT_EQ(failures(), std::vector<std::string>(3, std::string("E NvrProduceTest_") + line + " error\n"));
-    EXPECT_EQ(analysis("<XML_ZANTIR/>", &result), KOV_ERROR_BAD_DOCUMENT);
-  }
 }
 
 TEST_F(NvrProduceTest, DispatchersKnowTheirCodes) {

@@ -1,7 +1,6 @@
 #include "kov_protocol/nvr_replay.h"
 
 #include "every_message.h"
-#include "listed_texts.h"
 #include "trials.h"
 
 namespace kov::test {
@@ -12,8 +11,6 @@ const std::string kType = NVR_REPLAY_MESSAGE_TYPE;
 const NoRoundTrip kVedioParam(kType, "3012", "the flags that say which texts are there do not travel");
 
 class NvrReplayTest : public WireTest {};
-
-TEST_F(NvrReplayTest, TextsComeBackInTheirDirections) { expectListedTexts(kType, "playback"); }
 
 TEST_F(NvrReplayTest, AnswersAreReadBeforeQuestions) {
   const std::string both = golden("playback/recordings_query.txt") + golden("playback/recordings.txt");

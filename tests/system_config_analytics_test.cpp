@@ -5,8 +5,6 @@
 #include <sstream>
 #include <tuple>
 
-#include "config/analytics.h"
-#include "golden.h"
 #include "system_config_wire.h"
 
 namespace kov::test {
@@ -23,18 +21,6 @@ std::string relayed(const std::string& code, const std::string& body, const std:
   const Analysis read = analysePayload(received(kConfigType, code, body));
   EXPECT_EQ(read.code, 0) << code;
   return bodyOf(kConfigType, toCode, direction, read.result.get());
-}
-
-TEST_F(SystemConfigAnalyticsTest, EachMessageHasItsSide) {
-  EXPECT_EQ(sidesOf(kRuleCodes),
-            "1402:134 1403:02 1412:134 1413:02 1415:134 1414:02 1417:134 1416:02 1426:134 1427:02 ");
-  EXPECT_EQ(sidesOf(kAlgorithmCodes), "1404:134 1405:02 1406:134 1428:134 1429:01234 1430:02 ");
-  EXPECT_EQ(sidesOf(kFaceCodes), "1407:134 1408:02 1409:134 1410:134 1411:02 1418:134 1419:02 1424:134 1425:134 ");
-  EXPECT_EQ(sidesOf(kSceneCodes), "1420:134 1421:02 1422:134 1423:02 ");
-  EXPECT_EQ(missingOf(kAlgorithmCodes),
-            "getLicensePlateEvent VehicleAnalysis; setLicensePlateEvent VehicleAnalysis; "
-            "getLicensePlateImage LicensePlatePicture; getAlgorithmicList RESPONSE_PARAM; "
-            "getAlgorithmicConfig config; setAlgorithmicConfig config; ");
 }
 
 // Calls `change` with every line that begins with Def, and puts what it returns in its place.

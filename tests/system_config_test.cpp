@@ -1,46 +1,11 @@
 #include "kov_protocol/system_config.h"
 
-#include <sstream>
-
-#include "config/alarm.h"
-#include "config/channel.h"
-#include "config/general.h"
-#include "config/media.h"
-#include "config/network.h"
-#include "config/recorder.h"
 #include "system_config_wire.h"
 
 namespace kov::test {
 namespace {
 
 class SystemConfigTest : public WireTest {};
-
-// A line of each message: its code, the directions that give it a text, and what it calls itself when it composes.
-std::string messagesOf(const CodeGroup& codes) {
-  std::istringstream sides(sidesOf(codes));
-  std::string lines;
-  for (const CodeRow& row : codes) {
-    std::string side;
-    sides >> side;
-    char buffer[8];
-    BodyWriter body(buffer, sizeof buffer);
-    resetPlatform();
-    row.message->compose(nullptr, 0, body);
-    lines += side + " " + logLines().back();
-  }
-  return lines + missingOf(codes) + "\n";
-}
-
-TEST_F(SystemConfigTest, EveryMessageHasItsSidesAndNames) {
-  for (const auto& [name, codes] : {std::pair("network", &kNetworkCodes),
-                                    {"media", &kMediaCodes},
-                                    {"alarm", &kAlarmCodes},
-                                    {"channel", &kChannelCodes},
-                                    {"general", &kGeneralCodes},
-                                    {"recorder", &kRecorderSettingCodes}}) {
-    EXPECT_EQ(messagesOf(*codes), golden("system_config/messages_" + std::string(name) + ".txt"));
-  }
-}
 
 TEST_F(SystemConfigTest, DispatchersTellWhatTheyRefuse) {
   char body[8] = "?";

@@ -1,7 +1,7 @@
 // Bodies of the system control family that are not one element with all attributes of the record.
 #include "kov_protocol/system_config.h"
 #include "kov_protocol/system_control.h"
-#include "listed_texts.h"
+#include "trials.h"
 
 namespace kov::test {
 namespace {
@@ -16,8 +16,6 @@ Record readFile(const std::string& code, const std::string& file) {
 }
 
 class SystemControlBodies : public WireTest {};
-
-TEST_F(SystemControlBodies, ComeBackInTheirDirectionsAndSayNothingInTheOthers) { expectListedTexts(kType, "control"); }
 
 TEST_F(SystemControlBodies, AreReadIntoTheirFields) {
   EXPECT_EQ(readFile<SYSTEM_CONTROL_1022_PARAM>("1022", "upload_response").FileType, 2);
@@ -116,19 +114,6 @@ TEST_F(SystemControlBodies, KeyFrameIsSpeltInTwoWays) {
   EXPECT_TRUE(failures().empty());
   EXPECT_EQ(bodyOf(kType, "1032", 0, &record), "");
   EXPECT_EQ(failures(), std::vector<std::string>{"E SystemControl_GetIpcKeyFrame_MessageCompose unknow bSendIpc:2\n"});
-}
-
-TEST_F(SystemControlBodies, SomeAreMissedUnderTheNameOfAnother) {
-  std::istringstream lines(golden("control/missed.list"));
-  std::string code, name, element;
-  int messages = 0;
-  for (; lines >> code >> name >> element; ++messages) {
-    resetPlatform();
-    EXPECT_EQ(analysisCode(kType, code, "<X/>"), KOV_ERROR_NO_ELEMENT);
-    EXPECT_EQ(failures(),
-              std::vector<std::string>{"E SystemControl_" + name + "_MessageAnalysis get " + element + " error\n"});
-  }
-  EXPECT_EQ(messages, 12);
 }
 
 TEST_F(SystemControlBodies, NetworkCheckReadsQuestionAndAnswerTogether) {
