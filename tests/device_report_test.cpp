@@ -23,16 +23,5 @@ TEST_F(DeviceReportTest, PositionEndsBeforeTheReservedWord) {
   EXPECT_EQ(DEVICE_REPORT_3901_PARAM_init(nullptr), KOV_ERROR_NULL);
 }
 
-TEST_F(DeviceReportTest, AnalysisParsesBeforeItLooksAtTheCode) {
-  void* result = nullptr;
-  char body[8] = "?";
-  expectTold("reports/device_calls",
-             {DeviceReportMessageCompose("", 0, "3902", body, 8), analysisCode(kType, "3902", "<y>1</y>"),
-              DeviceReportMessageAnalysis("<XML_ZANTIR>", "3902", &result),
-              DeviceReportMessageAnalysis("<XML_ZANTIR/>", "3902", &result), analysisCode(kType, "3901", "<y>1</y>"),
-              DeviceReportMessageAnalysis("", nullptr, &result), DeviceReportMessageCompose("", 0, "3900", body, 0)});
-  EXPECT_EQ(result, nullptr);
-}
-
 }  // namespace
 }  // namespace kov::test

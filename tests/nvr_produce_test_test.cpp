@@ -39,25 +39,5 @@ TEST_F(NvrProduceTest, VerdictOfTheStationDoesNotReadTheClocks) {
   EXPECT_EQ(bodyOf(kType, "4008", 0, &record), textOf("verdict"));
 }
 
-TEST_F(NvrProduceTest, DispatchersKnowTheirCodes) {
-  char body[8] = "?";
-  void* result = nullptr;
-  EXPECT_EQ(NvrProduceTestMessageCompose(body, 1, "4009", body, 8), 0);
-  EXPECT_EQ(NvrProduceTestMessageAnalysis("no document", "4009", &result), 0);
-  EXPECT_TRUE(logLines().empty());
-  EXPECT_EQ(NvrProduceTestMessageCompose(body, 1, "4001", body, 8), KOV_ERROR_UNKNOWN_MESSAGE);
-  EXPECT_EQ(NvrProduceTestMessageAnalysis("", "4012", &result), KOV_ERROR_UNKNOWN_MESSAGE);
-  EXPECT_EQ(NvrProduceTestMessageCompose(body, 1, "4002", body, 0), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(NvrProduceTestMessageAnalysis(nullptr, "4002", &result), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(NvrProduceTestMessageAnalysis("", nullptr, &result), KOV_ERROR_EMPTY_ARGUMENT);
-  EXPECT_EQ(NvrProduceTestMessageAnalysis("", "4002", nullptr), KOV_ERROR_EMPTY_ARGUMENT);
-  const std::string empty = "E NvrProduceTestMessageAnalysis put a empty Param\n";
-  EXPECT_EQ(logLines(),
-            (std::vector<std::string>{"E NVR_PRODUCE_TEST_MESSAGE deal a unknow msg_code:4001\n",
-                                      "E NVR_PRODUCE_TEST_MESSAGE deal a unknow msg_code:4012\n",
-                                      "E NVR_PRODUCE_TEST_MESSAGE put a empty Param\n", empty, empty, empty}));
-  EXPECT_STREQ(body, "?");
-}
-
 }  // namespace
 }  // namespace kov::test

@@ -42,18 +42,5 @@ TEST_F(ReverseAudioTest, StopNamesItsSession) {
   EXPECT_EQ(std::memcmp(&read, &record, sizeof read), 0);
 }
 
-TEST_F(ReverseAudioTest, SpeaksUnderTheLiveStreamsName) {
-  const Stop record;
-  char body[8] = "?";
-  void* result = nullptr;
-  expectTold("live/talk_calls",
-             {ReverseAudioMessageAnalysis("<a>", "no", &result), ReverseAudioMessageAnalysis("<a/>", "no", &result),
-              analysisCode(kType, "546", ""), analysisCode(kType, "545", ""), analysisCode(kType, "544", ""),
-              ReverseAudioMessageAnalysis("", nullptr, &result), ReverseAudioMessageCompose(&record, 0, "no", body, 8),
-              ReverseAudioMessageCompose(&record, 0, "545", body, 8),
-              ReverseAudioMessageCompose(&record, 0, nullptr, body, 8)});
-  EXPECT_STREQ(body, "?");
-}
-
 }  // namespace
 }  // namespace kov::test

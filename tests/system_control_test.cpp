@@ -29,43 +29,6 @@ class SystemControlTest : public WireTest {
   }
 };
 
-TEST_F(SystemControlTest, CodesWithoutBodySucceedAndTouchNothing) {
-  for (const char* code : {"828", "1001", "1002", "1007", "1025", "1027", "1096", "1097", "1100", "3010", "3021",
-                           "3022", "5010", "5011"}) {
-    char body[8] = "?";
-    int untouched = 0;
-    void* result = &untouched;
-    EXPECT_EQ(SystemControlMessageCompose("", 1, code, body, sizeof body), 0) << code;
-    EXPECT_STREQ(body, "?");
-    EXPECT_EQ(SystemControlMessageAnalysis("no document", code, &result), 0) << code;
-    EXPECT_EQ(result, &untouched);
-    EXPECT_EQ(bodyOf(kType, code, 0, ""), "") << code;
-    EXPECT_EQ(analysisCode(kType, code, ""), 0) << code;
-  }
-  EXPECT_EQ(failures(), Lines());
-}
-
-TEST_F(SystemControlTest, UnknownCodesAndEmptyArgumentsAreTold) {
-  char body[8] = "?";
-  void* result = nullptr;
-  std::vector<Outcome> calls;
-  for (const char* code : {"1003", "3024", "5012"}) {
-    calls.emplace_back(SystemControlMessageCompose(body, 1, code, body, 8));
-    calls.emplace_back(SystemControlMessageAnalysis("", code, &result));
-  }
-  for (const char* code : {"1014", "1019"}) {
-    calls.emplace_back(SystemControlMessageCompose(body, 1, code, nullptr, 8));
-    calls.emplace_back(SystemControlMessageCompose(body, 1, code, body, 0));
-    calls.emplace_back(SystemControlMessageAnalysis(nullptr, code, &result));
-    calls.emplace_back(SystemControlMessageAnalysis("", code, nullptr));
-    calls.emplace_back(SystemControlMessageCompose(nullptr, 1, code, body, 8));
-  }
-  calls.emplace_back(SystemControlMessageCompose(body, 1, nullptr, body, 8));
-  calls.emplace_back(SystemControlMessageAnalysis("", nullptr, &result));
-  expectTold("control/calls", calls);
-  EXPECT_STREQ(body, "?");
-}
-
 TEST_F(SystemControlTest, IrcutIsComposedAndReadByItsOwnFunctionOnly) {
   const std::string body = "<REQUEST_PARAM\nMode=\"night\"\n/>\n";
   void* result = nullptr;
