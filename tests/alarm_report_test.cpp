@@ -115,17 +115,15 @@ TEST_F(AlarmReportTest, SmallerExtrasHaveRoomForAFace) {
 
 TEST_F(AlarmReportTest, TellsWhatItRefuses) {
   const Alarm alarm;
-  char out[8] = "?";
+  Untouched out;
   std::uint32_t extraLength = 0;
-  void* result = nullptr;
-  EXPECT_EQ(AlarmReportMessageCompose(&alarm, 1, out, 8, &extraLength), 0);
+  EXPECT_EQ(AlarmReportMessageCompose(&alarm, 1, out.body, 8, &extraLength), 0);
   EXPECT_EQ(logLines().back(), "I ALARM_REPORT_MESSAGE response message Not have Body, please check msgtype\n");
   expectTold("reports/alarm_calls",
-             {AlarmReportMessageCompose(nullptr, 0, out, 8, &extraLength),
-              AlarmReportMessageCompose(&alarm, 0, out, 8, nullptr), AlarmReportMessageAnalysis("", nullptr),
+             {AlarmReportMessageCompose(nullptr, 0, out.body, 8, &extraLength),
+              AlarmReportMessageCompose(&alarm, 0, out.body, 8, nullptr), AlarmReportMessageAnalysis("", nullptr),
               analysisCode(kType, "CMD_OTHER", "<ALARM_REPORT_PARAM/>"), analysisCode(kType, kCode, "<ALARM_ITEM/>"),
-              AlarmReportMessageAnalysis("<a/>", &result)});
-  EXPECT_STREQ(out, "?");
+              AlarmReportMessageAnalysis("<a/>", &out.result)});
   EXPECT_EQ(documentOf(kType, "CMD_OTHER", 0, &alarm), "code -1000");
   EXPECT_EQ(failures()[0], "E PTZ_CONTROL_MESSAGE deal a unknow Msg_code:CMD_OTHER !!!\n");
 }

@@ -1,6 +1,5 @@
 #include "kov_protocol/system_config_analytics.h"
 
-#include <algorithm>
 #include <climits>
 #include <sstream>
 #include <tuple>
@@ -167,28 +166,16 @@ TEST_F(SystemConfigAnalyticsTest, SmallMessagesComeBackAsTheyWere) {
   EXPECT_STREQ(face->Trans_Type, "x");
 }
 
-// Every list that a record counts: it comes back as it was, and one too long for the table is cut at its end.
-TEST_F(SystemConfigAnalyticsTest, ListsOfElementsComeBackAndStopAtTheirTables) {
-  const std::tuple<std::string, std::string, std::string, int, int> lists[] = {
-      {"1420", "1420_sounds", "AlarmAudio", kAnswer, SYSTEM_CONFIG_ALARM_AUDIOS},
-      {"1422", "1422_scenes", "AlarmType", kAnswer, SYSTEM_CONFIG_ALARM_TYPES},
-      {"1423", "1422_scenes", "SceneAlarmInfo", kAsk, SYSTEM_CONFIG_SCENES},
-      {"1428", "1428_algorithms", "Algorithms", kAnswer, SYSTEM_CONFIG_ALGORITHMS},
-      {"1424", "1424_databases", "faceDatabase", kAnswer, SYSTEM_CONFIG_FACE_DATABASES},
+TEST_F(SystemConfigAnalyticsTest, ListsStopAtTheirTables) {
+  const auto expectList = [](const std::string& code, int direction, const std::string& file,
+                             const std::string& element, int capacity, auto count) {
+    expectBounded(kConfigType, code, direction, WireList("analytics/" + file, element + "\n"), capacity, count);
   };
-  for (const auto& [code, file, item, direction, capacity] : lists) {
-    const std::string one = textOf(file);
-    const std::size_t from = one.find("<" + item + "\n");
-    const std::size_t to = one.find("/>\n", from) + 3;
-    const auto bodyWith = [&, from = from, to = to](int count) {
-      std::string body = one.substr(0, from);
-      for (int i = 0; i < count; ++i) body += one.substr(from, to - from);
-      return body + one.substr(to);
-    };
-    for (const int count : {1, capacity, capacity + 5}) {
-      EXPECT_EQ(relayed(code, bodyWith(count), code, direction), bodyWith(std::min(count, capacity)));
-    }
-  }
+  expectList("1420", kAnswer, "1420_sounds", "<AlarmAudio", 16, &SYSTEM_CONFIG_GET_1420_PARAM::AlarmAudioCount);
+  expectList("1422", kAnswer, "1422_scenes", "<AlarmType", 16, &SYSTEM_CONFIG_SET_1423_PARAM::AlarmTypeCount);
+  expectList("1423", kAsk, "1422_scenes", "<SceneAlarmInfo", 8, &SYSTEM_CONFIG_SET_1423_PARAM::SceneAlarmInfoCount);
+  expectList("1428", kAnswer, "1428_algorithms", "<Algorithms", 32, &SYSTEM_CONFIG_GET_1428_PARAM::AlgorithmsCount);
+  expectList("1424", kAnswer, "1424_databases", "<faceDatabase", 8, &SYSTEM_CONFIG_GET_1424_PARAM::faceDatabaseCount);
 }
 
 }  // namespace

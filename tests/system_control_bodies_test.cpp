@@ -127,26 +127,12 @@ TEST_F(SystemControlBodies, NetworkCheckReadsQuestionAndAnswerTogether) {
 }
 
 TEST_F(SystemControlBodies, DisksFollowTheirNumberAsFarAsTheTableGoes) {
-  auto record = readFile<SYSTEM_CONTROL_3500_PARAM>("3500", "disks");
-  EXPECT_EQ(record.DiskNum, -1);
-  EXPECT_EQ(record.Disks[0].Status, 2);
-  const std::string one = textOf("disks");
-  const std::size_t from = one.find("<DeviceInfo");
-  const std::size_t length = one.find("</RESPONSE") - from;
-  for (auto& disk : record.Disks) disk = record.Disks[0];
-  const std::pair<int, int> numbers[] = {{-2, 0}, {0, 0}, {1, 1}, {11, 11}, {12, 11}, {INT32_MAX, 11}};
-  for (const auto& [number, disks] : numbers) {
-    record.DiskNum = number;
-    std::string text = "<RESPONSE_PARAM>\nDiskNum=\"" + std::to_string(number) + "\"\nRecordDays=\"-1\"\n";
-    for (int i = 0; i < disks; ++i) text += one.substr(from, length);
-    EXPECT_EQ(bodyOf(kType, "3500", 1, &record), text + one.substr(from + length));
-  }
-  std::string many;
-  for (int i = 0; i < 40; ++i) many += "<DeviceInfo DevIndex=\"" + std::to_string(i) + "\"/>";
-  const auto cut = analysed<SYSTEM_CONTROL_3500_PARAM>(kType, "3500",
-                                                       "<RESPONSE_PARAM DiskNum=\"40\">" + many + "</RESPONSE_PARAM>");
-  EXPECT_EQ(cut.DiskNum, 40);
-  EXPECT_EQ(cut.Disks[10].DevIndex, 10U);
+  const auto record = readFile<SYSTEM_CONTROL_3500_PARAM>("3500", "disks");
+  EXPECT_EQ((Numbers{record.DiskNum, record.Disks[0].Status}), (Numbers{-1, 2}));
+  expectBounded(kType, "3500", 1, WireList("control/disks", "<DeviceInfo"), 11, &SYSTEM_CONTROL_3500_PARAM::DiskNum);
+  const std::string many = "<RESPONSE_PARAM DiskNum=\"40\">" + repeated("<DeviceInfo DevIndex=\"9\"/>", 40);
+  const auto cut = analysed<SYSTEM_CONTROL_3500_PARAM>(kType, "3500", many + "</RESPONSE_PARAM>");
+  EXPECT_EQ((Numbers{cut.DiskNum, cut.Disks[10].DevIndex}), (Numbers{40, 9}));
 }
 
 }  // namespace
