@@ -25,11 +25,9 @@ TEST_F(AnalysisEntry, ReadsHeaderAndRecord) {
   const Analysis analysis = analysePayload(document);
   EXPECT_EQ(analysis.code, 0);
   EXPECT_EQ(channelOf(analysis), 4);
-  EXPECT_STREQ(analysis.header.Msg_type, "NVR_REPLAY_MESSAGE");
-  EXPECT_STREQ(analysis.header.Msg_code, "3003");
-  EXPECT_STREQ(analysis.header.Msg_flag, "7");
-  EXPECT_EQ(analysis.header.Msg_uuid, std::string(63, 'u'));
-  EXPECT_STREQ(analysis.header.Msg_chn, "");
+  const KOV_PROTOCOL_HEADER& header = analysis.header;
+  EXPECT_EQ((Texts{header.Msg_type, header.Msg_code, header.Msg_flag, header.Msg_uuid, header.Msg_chn}),
+            (Texts{"NVR_REPLAY_MESSAGE", "3003", "7", std::string(63, 'u'), ""}));
   EXPECT_EQ(logLines(), std::vector<std::string>{"I KovProtocolMSGAnalysisStart get msgbuf:" + document + "\n"});
 }
 
@@ -238,12 +236,9 @@ TEST_F(AnalysisEntry, TransparentMessagesHandOutTheEmbeddedText) {
     const Analysis analysis = analysePayload(transparent(embedded) + tail);
     ASSERT_EQ(analysis.code, static_cast<int>(embedded.size()));
     const auto* const record = static_cast<TRANSPARENT_HEADER*>(analysis.result.get());
-    EXPECT_STREQ(analysis.header.Msg_type, "T");
-    EXPECT_STREQ(record->Trans_Type, "T");
-    EXPECT_STREQ(record->Channel_ID, "2");
-    EXPECT_STREQ(record->Source_Type, "");
-    EXPECT_EQ(record->Session_ID, std::string(31, 's'));
-    EXPECT_EQ(record->Payload, embedded);
+    EXPECT_EQ((Texts{analysis.header.Msg_type, record->Trans_Type, record->Channel_ID, record->Source_Type,
+                     record->Session_ID, record->Payload}),
+              (Texts{"T", "T", "2", "", std::string(31, 's'), embedded}));
     EXPECT_EQ(record->PayloadLength, analysis.code);
   }
   EXPECT_EQ(failures(), std::vector<std::string>{});

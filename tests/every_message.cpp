@@ -52,14 +52,9 @@ NoRoundTrip::NoRoundTrip(const std::string& type, const std::string& code, const
 
 bool roundTrips(const TestedMessage& message) { return exceptions().count(message.name()) == 0; }
 
-RecordBlock defaultRecord(const TestedMessage& message) {
+RecordBlock filledRecord(const TestedMessage& message, unsigned char value) {
   RecordBlock block(new char[message.record.size]);
   message.record.setDefaults(block.get());
-  return block;
-}
-
-RecordBlock filledRecord(const TestedMessage& message, unsigned char value) {
-  RecordBlock block = defaultRecord(message);
   if (message.fill != nullptr) {
     message.fill(block.get(), value);
   } else {

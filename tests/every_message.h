@@ -38,7 +38,6 @@ struct NoRoundTrip {
 };
 bool roundTrips(const TestedMessage& message);
 
-RecordBlock defaultRecord(const TestedMessage& message);
 RecordBlock filledRecord(const TestedMessage& message, unsigned char value);
 
 }  // namespace kov::test

@@ -2,7 +2,6 @@
 
 #include <cstring>
 #include <sstream>
-#include <tuple>
 
 #include "every_message.h"
 #include "ptz/sub_command.h"
