@@ -39,5 +39,18 @@ TEST_F(NvrProduceTest, VerdictOfTheStationDoesNotReadTheClocks) {
   EXPECT_EQ(bodyOf(kType, "4008", 0, &record), textOf("verdict"));
 }
 
+TEST_F(NvrProduceTest, MissingElementsHaveACodeOfTheirOwn) {
+  const std::string xml = received(kType, "4002", "");
+  void* result = nullptr;
+  EXPECT_EQ(NvrProduceTestMessageAnalysis(xml.c_str(), "4002", &result), KOV_ERROR_NO_TEST_ELEMENT);
+  for (const auto analysis :
+       {NvrProduceTest_LedControl_MessageAnalysis, NvrProduceTest_AudioTest_MessageAnalysis,
+        NvrProduceTest_VGA_HMDI_Test_MessageAnalysis, NvrProduceTest_ReportResult_MessageAnalysis,
+        NvrProduceTest_GetNvrSystemTime_MessageAnalysis, NvrProduceTest_SendTestReuslt_MessageAnalysis,
+        NvrProduceTest_GetNvrTestAbality_MessageAnalysis, NvrProduceTest_GetOtherParam_MessageAnalysis}) {
+    EXPECT_EQ(analysis(xml.c_str(), &result), KOV_ERROR_NO_TEST_ELEMENT) << logLines().back();
+  }
+}
+
 }  // namespace
 }  // namespace kov::test
