@@ -1,9 +1,5 @@
-/**
- * @file guarded_page.h
- * @brief A buffer of exactly n bytes that ends at an unreadable page, so that one byte too far is a fault.
- */
-#ifndef KOV_TESTS_GUARDED_PAGE_H
-#define KOV_TESTS_GUARDED_PAGE_H
+// A buffer of exactly n bytes that ends at an unreadable page, so that one byte too far is a fault.
+#pragma once
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -46,5 +42,3 @@ class GuardedBuffer {
 };
 
 }  // namespace kov::test
-
-#endif

@@ -1,7 +1,4 @@
-/**
- * @file xml_reader_test.cpp
- * @brief The reader: what it accepts, what it refuses, what it forgives, and what it costs.
- */
+// The reader: what it accepts, what it refuses, what it forgives, and what it costs.
 #include <gtest/gtest.h>
 
 #include <chrono>
