@@ -1,7 +1,4 @@
-/**
- * @file allocation_probe.cpp
- * @brief The program's own non-throwing operator new. It takes its blocks from the ordinary one, so any delete fits.
- */
+// The program's own non-throwing operator new. It takes its blocks from the ordinary one, so any delete fits.
 #include "allocation_probe.h"
 
 #include <algorithm>

@@ -1,9 +1,5 @@
-/**
- * @file allocation_probe.h
- * @brief Counts, measures and fails the blocks that the library takes with non-throwing operators new.
- */
-#ifndef KOV_TESTS_ALLOCATION_PROBE_H
-#define KOV_TESTS_ALLOCATION_PROBE_H
+// Counts, measures and fails the blocks that the library takes with non-throwing operators new.
+#pragma once
 
 #include <cstddef>
 
@@ -26,5 +22,3 @@ class AllocationProbe {
 };
 
 }  // namespace kov::test
-
-#endif

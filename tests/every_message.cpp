@@ -22,7 +22,8 @@ void addCodes(const FamilyRow& family, std::vector<TestedMessage>& messages) {
   for (std::size_t i = 0; i < table.groupCount(); ++i) {
     for (const CodeRow& row : table.group(i)) {
       if (row.message != nullptr) {
-        messages.push_back({family.msgType, std::to_string(row.code), row.message->record(), nullptr, &table});
+        messages.push_back(
+            {family.msgType, std::to_string(row.code), row.message->record(), nullptr, &table, row.message});
       }
     }
   }
@@ -51,14 +52,9 @@ NoRoundTrip::NoRoundTrip(const std::string& type, const std::string& code, const
 
 bool roundTrips(const TestedMessage& message) { return exceptions().count(message.name()) == 0; }
 
-RecordBlock defaultRecord(const TestedMessage& message) {
+RecordBlock filledRecord(const TestedMessage& message, unsigned char value) {
   RecordBlock block(new char[message.record.size]);
   message.record.setDefaults(block.get());
-  return block;
-}
-
-RecordBlock filledRecord(const TestedMessage& message, unsigned char value) {
-  RecordBlock block = defaultRecord(message);
   if (message.fill != nullptr) {
     message.fill(block.get(), value);
   } else {

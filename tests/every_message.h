@@ -18,7 +18,8 @@ struct TestedMessage {
   RecordType record;
   // Fills the record with one byte value all over; null: a plain fill. Records with pointers bring their own.
   void (*fill)(void* record, unsigned char value) = nullptr;
-  const CodeTable* table = nullptr;  // where it stands; null: added by hand
+  const CodeTable* table = nullptr;  // where it stands; null, as the next: added by hand
+  const Message* message = nullptr;
 
   std::string name() const { return type + " " + code; }
 };
@@ -37,7 +38,6 @@ struct NoRoundTrip {
 };
 bool roundTrips(const TestedMessage& message);
 
-RecordBlock defaultRecord(const TestedMessage& message);
 RecordBlock filledRecord(const TestedMessage& message, unsigned char value);
 
 }  // namespace kov::test

@@ -3,9 +3,11 @@
 
 #include <climits>
 #include <cstring>
+#include <set>
+#include <sstream>
 
 #include "core/family_table.h"
-#include "wire.h"
+#include "trials.h"
 
 namespace kov::test {
 namespace {
@@ -117,33 +119,78 @@ TEST_F(EveryMessage, FailedAllocationLeavesNothingBehind) {
 }
 
 TEST_F(EveryMessage, TellsAMissingRecordAndEmptyArguments) {
-  for (const FamilyRow& family : families()) {
-    if (family.family->codes == nullptr) continue;
-    for (std::size_t i = 0; i < family.family->codes->groupCount(); ++i) {
-      for (const CodeRow& row : family.family->codes->group(i)) {
-        if (row.message == nullptr) continue;
-        char buffer[16] = "?";
-        BodyWriter body(buffer, sizeof buffer);
-        resetPlatform();
-        EXPECT_EQ(row.message->compose(nullptr, 0, body), KOV_ERROR_EMPTY_ARGUMENT);
-        void* result = nullptr;
-        EXPECT_EQ(row.message->analyse(nullptr, &result), KOV_ERROR_EMPTY_ARGUMENT);
-        EXPECT_EQ(row.message->analyse("<XML_ZANTIR/>", nullptr), KOV_ERROR_EMPTY_ARGUMENT);
-        EXPECT_EQ(row.message->analyse("<XML_ZANTIR>", &result), KOV_ERROR_BAD_DOCUMENT);
-        EXPECT_EQ(row.message->analyse("<XML_ZANTIR/>", &result), KOV_ERROR_BAD_DOCUMENT);
-        const std::string name = row.message->name();
-        ASSERT_EQ(logLines().size(), 5U) << name;
-        EXPECT_EQ(logLines()[0].substr(0, 2), "I ");
-        EXPECT_NE(logLines()[0].find("Compose put a empty Param\n"), std::string::npos);
-        EXPECT_EQ(logLines()[1], "E " + name + "Analysis put a empty Param\n");
-        EXPECT_EQ(logLines()[2], "E " + name + "Analysis put a empty Param\n");
-        EXPECT_EQ(logLines()[3], "E " + name + "Analysis Parse MsgBuf error\n");
-        EXPECT_EQ(logLines()[4], "E " + name + "Analysis get MESSAGE_BODY error\n");
-        EXPECT_EQ(result, nullptr);
-        EXPECT_STREQ(buffer, "?");
+  for (const TestedMessage& tested : everyMessage()) {
+    if (tested.message == nullptr) continue;
+    const Message& message = *tested.message;
+    char buffer[16] = "?";
+    BodyWriter body(buffer, sizeof buffer);
+    resetPlatform();
+    EXPECT_EQ(message.compose(nullptr, 0, body), KOV_ERROR_EMPTY_ARGUMENT);
+    void* result = nullptr;
+    EXPECT_EQ(message.analyse(nullptr, &result), KOV_ERROR_EMPTY_ARGUMENT);
+    EXPECT_EQ(message.analyse("<XML_ZANTIR/>", nullptr), KOV_ERROR_EMPTY_ARGUMENT);
+    EXPECT_EQ(message.analyse("<XML_ZANTIR>", &result), KOV_ERROR_BAD_DOCUMENT);
+    EXPECT_EQ(message.analyse("<XML_ZANTIR/>", &result), KOV_ERROR_BAD_DOCUMENT);
+    const std::string told = "E " + std::string(message.name()) + "Analysis ";
+    ASSERT_EQ(logLines().size(), 5U) << told;
+    EXPECT_EQ(std::vector<std::string>(logLines().begin() + 1, logLines().end()),
+              (std::vector<std::string>{told + "put a empty Param\n", told + "put a empty Param\n",
+                                        told + "Parse MsgBuf error\n", told + "get MESSAGE_BODY error\n"}));
+    EXPECT_EQ(result, nullptr);
+    EXPECT_STREQ(buffer, "?");
+  }
+}
+
+// What a message calls itself, the directions that give its record a text, and what a body without its element is told.
+std::string traitsOf(const TestedMessage& message) {
+  std::string traits = message.name() + "\n";
+  if (message.message != nullptr) {
+    char buffer[8];
+    BodyWriter body(buffer, sizeof buffer);
+    resetPlatform();
+    message.message->compose(nullptr, 0, body);
+    traits += "  " + logLines().at(0);
+  }
+  traits += "  directions";
+  const RecordBlock record = filledRecord(message, 1);
+  for (const int direction : {0, 1, 2, 3, 4}) {
+    const bool silent = bodyOf(message.type, message.code, direction, record.get()).empty();
+    if (!silent) traits += " " + std::to_string(direction);
+  }
+  resetPlatform();
+  return traits + "\n  without element " + Outcome(analysisCode(message.type, message.code, "")).text;
+}
+
+TEST_F(EveryMessage, HasItsNameItsDirectionsAndItsElement) {
+  std::set<std::string> each;
+  for (const TestedMessage& message : everyMessage()) each.insert(traitsOf(message));
+  std::string traits;
+  for (const std::string& one : each) traits += one;
+  EXPECT_EQ(traits, golden("traits.txt"));
+}
+
+// Each line of wire/messages.txt names the type, a text, and the messages that it is, "202-134 222-02": the code and
+// the directions of each. Reading gives a record that gives the same text again.
+TEST_F(EveryMessage, StoredTextsComeBackAsTheyWere) {
+  std::istringstream lines(golden("messages.txt"));
+  int messages = 0;
+  for (std::string line; std::getline(lines, line);) {
+    std::istringstream words(line);
+    std::string type, file;
+    words >> type >> file;
+    const std::string body = golden(file + ".txt");
+    for (std::string message; words >> message; ++messages) {
+      const std::size_t dash = message.find('-');
+      const std::string code = message.substr(0, dash);
+      const Analysis read = analysePayload(received(type, code, body));
+      ASSERT_EQ(read.code, 0) << line;
+      ASSERT_NE(read.result, nullptr) << line;
+      for (const char direction : message.substr(dash + 1)) {
+        EXPECT_EQ(bodyOf(type, code, direction - '0', read.result.get()), body) << line;
       }
     }
   }
+  EXPECT_GT(messages, 150);
 }
 
 }  // namespace

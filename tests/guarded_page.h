@@ -1,9 +1,5 @@
-/**
- * @file guarded_page.h
- * @brief A buffer of exactly n bytes that begins or ends at an unreadable page, so that one byte too far is a fault.
- */
-#ifndef KOV_TESTS_GUARDED_PAGE_H
-#define KOV_TESTS_GUARDED_PAGE_H
+// A buffer of exactly n bytes that ends at an unreadable page, so that one byte too far is a fault.
+#pragma once
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -17,18 +13,15 @@ namespace kov::test {
 
 class GuardedBuffer {
  public:
-  enum class Guard { Behind, Before };
-
-  explicit GuardedBuffer(std::size_t size, Guard guard = Guard::Behind) {
+  explicit GuardedBuffer(std::size_t size) {
     const auto page = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
     const std::size_t used = (size + page - 1) / page * page;
     mappedSize_ = used + page;
     mapped_ = ::mmap(nullptr, mappedSize_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (mapped_ == MAP_FAILED) std::abort();
-    auto* bytes = static_cast<char*>(mapped_);
-    char* guardPage = guard == Guard::Behind ? bytes + used : bytes;
+    char* const guardPage = static_cast<char*>(mapped_) + used;
     if (::mprotect(guardPage, page, PROT_NONE) != 0) std::abort();
-    data_ = guard == Guard::Behind ? guardPage - size : guardPage + page;
+    data_ = guardPage - size;
   }
 
   /** A copy of `text` whose NUL is the last readable byte. */
@@ -49,5 +42,3 @@ class GuardedBuffer {
 };
 
 }  // namespace kov::test
-
-#endif

@@ -1,6 +1,10 @@
+// Live streams and the audio of the other direction.
 #include "kov_protocol/live_stream.h"
 
+#include <cstring>
+
 #include "every_message.h"
+#include "kov_protocol/reverse_audio.h"
 #include "trials.h"
 
 namespace kov::test {
@@ -78,20 +82,17 @@ TEST_F(LiveStreamTest, StopAndQualityReadAnyTextAsANumber) {
 }
 
 TEST_F(LiveStreamTest, TellsWhatItRefusesButNotBadText) {
-  char body[8] = "?";
-  void* result = nullptr;
-  expectTold(
-      "live/stream_calls",
-      {LiveStreamMessageCompose("", 0, nullptr, body, 8, nullptr, 0, 0),
-       LiveStreamMessageAnalysis(nullptr, "1062", &result), LiveStreamMessageAnalysis("", "CMD_STREAM_STOP", nullptr),
-       LiveStreamMessageCompose(nullptr, 0, "1062", body, 8, nullptr, 0, 0),
-       LiveStreamMessageCompose(nullptr, 0, "CMD", body, 8, nullptr, 0, 0),
-       LiveStreamMessageAnalysis("", "CMD", &result), analysisCode(kType, "CMD", ""),
-       LiveStreamMessageAnalysis("<a>", "1062", &result), LiveStreamCmdStartMessageAnalysis("<a/>", &result),
-       analysisCode(kType, "1062", "<VIDEO_PARAM/>"),
-       analysisCode(kType, "CMD_STREAM_QUALITY", "<STREAM_STOP_PARAM/>")});
-  EXPECT_STREQ(body, "?");
-  EXPECT_EQ(result, nullptr);
+  Untouched out;
+  expectTold("live/stream_calls",
+             {LiveStreamMessageCompose("", 0, nullptr, out.body, 8, nullptr, 0, 0),
+              LiveStreamMessageAnalysis(nullptr, "1062", &out.result),
+              LiveStreamMessageAnalysis("", "CMD_STREAM_STOP", nullptr),
+              LiveStreamMessageCompose(nullptr, 0, "1062", out.body, 8, nullptr, 0, 0),
+              LiveStreamMessageCompose(nullptr, 0, "CMD", out.body, 8, nullptr, 0, 0),
+              LiveStreamMessageAnalysis("", "CMD", &out.result), analysisCode(kType, "CMD", ""),
+              LiveStreamMessageAnalysis("<a>", "1062", &out.result),
+              LiveStreamCmdStartMessageAnalysis("<a/>", &out.result), analysisCode(kType, "1062", "<VIDEO_PARAM/>"),
+              analysisCode(kType, "CMD_STREAM_QUALITY", "<STREAM_STOP_PARAM/>")});
 }
 
 TEST_F(LiveStreamTest, HeaderAttributesStayInTheirBuffer) {
@@ -112,6 +113,40 @@ TEST_F(LiveStreamTest, HeaderAttributesStayInTheirBuffer) {
   EXPECT_EQ(extras(-1, 2, 3, KOV_ERROR_EMPTY_ARGUMENT), "x\n");
   char body[8];
   EXPECT_EQ(LiveStreamMessageCompose(&record, 1, "1062", body, sizeof body, nullptr, 256, 0), 0);
+}
+
+using TalkStart = REVERSE_AUDIO_CMD_RA_START_PARAM;
+using TalkStop = REVERSE_AUDIO_CMD_RA_STOP_PARAM;
+
+const std::string kTalk = REVERSE_AUDIO_MESSAGE_TYPE;
+const AlsoTested kTalkStart({kTalk, "544", kRecordType<TalkStart>});
+const AlsoTested kTalkStop({kTalk, "CMD_RA_STOP", kRecordType<TalkStop>});
+
+class ReverseAudioTest : public WireTest {};
+
+TEST_F(ReverseAudioTest, StartNamesTheFormatDifferentlyInTheAnswer) {
+  TalkStart record = {1, 2, 8000, 0, "G711", "", 16, 5004};
+  const std::string answer =
+      "<RA_START_RESPONSE\nRTPRecvPort=\"5004\"\nAudioCodec=\"G711\"\nSamplerate=\"8000\"\nBitsPerSample=\"16\"\n"
+      "Channels=\"1\"\nConnectionType=\"2\"/>\n";
+  for (const int direction : {1, -1}) EXPECT_EQ(bodyOf(kTalk, "544", direction, &record), answer);
+  auto read = analysed<TalkStart>(kTalk, "544", answer);
+  EXPECT_EQ(read.SampleRate, -1);  // lost: it is read under another spelling than it is written
+  read.SampleRate = 8000;
+  EXPECT_EQ(std::memcmp(&read, &record, sizeof read), 0);
+  EXPECT_EQ(analysed<TalkStart>(kTalk, "544", "<RA_START_RESPONSE SampleRate=\"7\"/>").SampleRate, 7);
+  set(record.Sessionid, "s");
+  read = analysed<TalkStart>(kTalk, "CMD_RA_START", answer + golden("live/talk.txt"));
+  EXPECT_EQ(std::memcmp(&read, &record, sizeof read), 0);
+}
+
+TEST_F(ReverseAudioTest, StopNamesItsSession) {
+  TalkStop record;
+  EXPECT_EQ(bodyOf(kTalk, "545", 0, &record), "");
+  std::memset(record.Sessionid, 's', sizeof record.Sessionid);
+  for (const int direction : {1, 4}) EXPECT_EQ(bodyOf(kTalk, "545", direction, &record), "");
+  const auto read = analysed<TalkStop>(kTalk, "545", "<RA_STOP_PARAM Sessionid=\"" + std::string(68, 's') + "\"/>");
+  EXPECT_EQ(std::memcmp(&read, &record, sizeof read), 0);
 }
 
 }  // namespace

@@ -78,16 +78,5 @@ TEST_F(NvrInternalTest, ChannelListNeedsItsPeerAndItsCount) {
   EXPECT_STREQ(body, "<REQUES");
 }
 
-TEST_F(NvrInternalTest, TellsUnknownCodesAndMissingElements) {
-  char body[8] = "?";
-  void* result = nullptr;
-  expectTold("nvr_internal/calls",
-             {NvrInternalMessageCompose("", 0, "4003", body, 8), NvrInternalMessageCompose("", 0, nullptr, body, 8),
-              analysisCode(kType, "4003", ""), NvrInternalMessageAnalysis("<a/>", "4003", &result),
-              analysisCode(kType, "4001", ""), analysisCode(kType, "4002", ""),
-              NvrInternalMessageAnalysis("", "4002", nullptr)});
-  EXPECT_EQ(result, nullptr);
-}
-
 }  // namespace
 }  // namespace kov::test

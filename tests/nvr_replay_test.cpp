@@ -1,7 +1,7 @@
 #include "kov_protocol/nvr_replay.h"
 
 #include "every_message.h"
-#include "listed_texts.h"
+#include "kov_protocol/replay_control.h"
 #include "trials.h"
 
 namespace kov::test {
@@ -13,7 +13,10 @@ const NoRoundTrip kVedioParam(kType, "3012", "the flags that say which texts are
 
 class NvrReplayTest : public WireTest {};
 
-TEST_F(NvrReplayTest, TextsComeBackInTheirDirections) { expectListedTexts(kType, "playback"); }
+TEST_F(NvrReplayTest, ControlIsReadIntoItsFields) {
+  const std::string control = golden("playback/control.txt");
+  EXPECT_EQ(analysed<REPLAY_CONTROL_PARAM>(REPLAY_CONTROL_MESSAGE_TYPE, "0", control).StartPos, 5);
+}
 
 TEST_F(NvrReplayTest, AnswersAreReadBeforeQuestions) {
   const std::string both = golden("playback/recordings_query.txt") + golden("playback/recordings.txt");
@@ -53,24 +56,6 @@ TEST_F(NvrReplayTest, QueryBySecondReadsTheRequestFirst) {
   EXPECT_EQ(read.SequenceNumber, 9U);
   const std::string both = response + "<REQUEST_PARAM SequenceNumber=\"-1\"/>";
   EXPECT_EQ(analysed<NVR_REPLAY_3017_PARAM>(kType, "3017", both).SequenceNumber, UINT32_MAX);
-}
-
-TEST_F(NvrReplayTest, RefusalsAreTold) {
-  char body[8] = "?";
-  void* result = nullptr;
-  const NVR_REPLAY_3001_PARAM record;
-  std::vector<Outcome> calls = {
-      NvrReplayMessageCompose(&record, 0, "3001", nullptr, 8), NvrReplayMessageCompose(&record, 0, "3001", body, 0),
-      NvrReplayMessageCompose(&record, 0, nullptr, body, 8),   NvrReplayMessageAnalysis(nullptr, "3001", &result),
-      NvrReplayMessageAnalysis("", nullptr, &result),          NvrReplayMessageAnalysis("", "3001", nullptr),
-      NvrReplayMessageCompose(nullptr, 0, "9999", body, 8)};
-  for (const char* code : {"3018", "3000", "abc", "4294970297"}) {
-    calls.emplace_back(NvrReplayMessageCompose("", 0, code, body, sizeof body));
-    calls.emplace_back(NvrReplayMessageAnalysis("<a/>", code, &result));
-  }
-  expectTold("playback/replay_calls", calls);
-  EXPECT_STREQ(body, "?");
-  EXPECT_EQ(result, nullptr);
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 #include <stdexcept>
 #include <string>
 
-#include "every_message.h"
 #include "trials.h"
 
 namespace kov::test {
@@ -50,39 +49,6 @@ Result<Record> bothWays(const std::string& code, int direction, const std::strin
   Result<Record> result = readBody<Record>(code, body);
   EXPECT_EQ(written(code, direction, *result), body);
   return result;
-}
-
-// The directions from 0 to 4 that give a group's messages a text: "300:134 325:02 "
-inline std::string sidesOf(const CodeGroup& codes) {
-  std::string sides;
-  for (const CodeRow& row : codes) {
-    const TestedMessage message = {kConfigType, std::to_string(row.code), row.message->record()};
-    const RecordBlock record = filledRecord(message, 1);
-    sides += message.code + ":";
-    for (const int direction : {0, 1, 2, 3, 4}) {
-      if (!bodyOf(kConfigType, message.code, direction, record.get()).empty()) sides += std::to_string(direction);
-    }
-    sides += " ";
-  }
-  return sides;
-}
-
-// What the analyses of a group tell about an empty body, cut to names: "getNetconfig NetworkConfig; "
-inline std::string missingOf(const CodeGroup& codes) {
-  std::string told;
-  for (const CodeRow& row : codes) {
-    resetPlatform();
-    const int code = analysisCode(kConfigType, std::to_string(row.code), "");
-    if (code == 0) continue;
-    EXPECT_EQ(code, KOV_ERROR_NO_ELEMENT) << row.code;
-    std::string line = failures().front();
-    for (const std::string part : {"E SystemConfig_", "_MessageAnalysis get", " error\n"}) {
-      const std::size_t at = line.find(part);
-      if (at != std::string::npos) line.erase(at, part.size());
-    }
-    told += line + "; ";
-  }
-  return told;
 }
 
 }  // namespace kov::test

@@ -1,4 +1,5 @@
-// Dispatch of the system control family, and the codes that run more than one message.
+// The system control family: the code that runs two messages, and the bodies that are not one element with all
+// attributes of the record.
 #include "kov_protocol/system_control.h"
 
 #include <cstring>
@@ -28,43 +29,6 @@ class SystemControlTest : public WireTest {
     return analysis;
   }
 };
-
-TEST_F(SystemControlTest, CodesWithoutBodySucceedAndTouchNothing) {
-  for (const char* code : {"828", "1001", "1002", "1007", "1025", "1027", "1096", "1097", "1100", "3010", "3021",
-                           "3022", "5010", "5011"}) {
-    char body[8] = "?";
-    int untouched = 0;
-    void* result = &untouched;
-    EXPECT_EQ(SystemControlMessageCompose("", 1, code, body, sizeof body), 0) << code;
-    EXPECT_STREQ(body, "?");
-    EXPECT_EQ(SystemControlMessageAnalysis("no document", code, &result), 0) << code;
-    EXPECT_EQ(result, &untouched);
-    EXPECT_EQ(bodyOf(kType, code, 0, ""), "") << code;
-    EXPECT_EQ(analysisCode(kType, code, ""), 0) << code;
-  }
-  EXPECT_EQ(failures(), Lines());
-}
-
-TEST_F(SystemControlTest, UnknownCodesAndEmptyArgumentsAreTold) {
-  char body[8] = "?";
-  void* result = nullptr;
-  std::vector<Outcome> calls;
-  for (const char* code : {"1003", "3024", "5012"}) {
-    calls.emplace_back(SystemControlMessageCompose(body, 1, code, body, 8));
-    calls.emplace_back(SystemControlMessageAnalysis("", code, &result));
-  }
-  for (const char* code : {"1014", "1019"}) {
-    calls.emplace_back(SystemControlMessageCompose(body, 1, code, nullptr, 8));
-    calls.emplace_back(SystemControlMessageCompose(body, 1, code, body, 0));
-    calls.emplace_back(SystemControlMessageAnalysis(nullptr, code, &result));
-    calls.emplace_back(SystemControlMessageAnalysis("", code, nullptr));
-    calls.emplace_back(SystemControlMessageCompose(nullptr, 1, code, body, 8));
-  }
-  calls.emplace_back(SystemControlMessageCompose(body, 1, nullptr, body, 8));
-  calls.emplace_back(SystemControlMessageAnalysis("", nullptr, &result));
-  expectTold("control/calls", calls);
-  EXPECT_STREQ(body, "?");
-}
 
 TEST_F(SystemControlTest, IrcutIsComposedAndReadByItsOwnFunctionOnly) {
   const std::string body = "<REQUEST_PARAM\nMode=\"night\"\n/>\n";
@@ -156,13 +120,11 @@ TEST_F(SystemControlTest, StorageFormatReplacesTheStorageRecord) {
 }
 
 TEST_F(SystemControlTest, StorageTellsTheFailuresOfBothMessages) {
-  int untouched = 0;
-  void* result = &untouched;
+  Untouched out;
   expectTold("control/storage_calls",
-             {SystemControlMessageAnalysis("<XML_ZANTIR>", "1014", &result),
-              SystemControlMessageAnalysis("<XML_ZANTIR/>", "1014", &result),
-              SystemControlMessageAnalysis("<XML_ZANTIR><MESSAGE_BODY/></XML_ZANTIR>", "1014", &result)});
-  EXPECT_EQ(result, &untouched);
+             {SystemControlMessageAnalysis("<XML_ZANTIR>", "1014", &out.result),
+              SystemControlMessageAnalysis("<XML_ZANTIR/>", "1014", &out.result),
+              SystemControlMessageAnalysis("<XML_ZANTIR><MESSAGE_BODY/></XML_ZANTIR>", "1014", &out.result)});
 }
 
 TEST_F(SystemControlTest, StorageWithoutMemoryForEitherRecord) {
@@ -199,6 +161,130 @@ TEST_F(SystemControlTest, AbilitiesHaveAComposeFunctionOfTheirOwn) {
   EXPECT_EQ(logLines(), Lines(3, "I SystemControl_GetSysAbality_MessageCompose put a empty Param\n"));
   EXPECT_EQ(SystemControl_GetSysAbality_MessageCompose(&record, 1, body, 16), 0);
   EXPECT_STREQ(body, "<RESPONSE_PARAM");
+}
+
+// ---- Bodies
+
+std::string textOf(const std::string& file) { return golden("control/" + file + ".txt"); }
+
+template <class Record>
+Record readFile(const std::string& code, const std::string& file) {
+  return analysed<Record>(kType, code, textOf(file));
+}
+
+class SystemControlBodies : public WireTest {};
+
+TEST_F(SystemControlBodies, AreReadIntoTheirFields) {
+  EXPECT_EQ(readFile<SYSTEM_CONTROL_1022_PARAM>("1022", "upload_response").FileType, 2);
+  EXPECT_STREQ(readFile<SYSTEM_CONTROL_1022_PARAM>("1009", "download_request").FilePath, "/f");
+  EXPECT_EQ(readFile<SYSTEM_CONTROL_1022_PARAM>("1024", "download_response").FileLength, 5U);
+  EXPECT_STREQ(readFile<SYSTEM_CONTROL_1012_PARAM>("1012", "versions_of_channel").HardVersion, "h");
+  EXPECT_STREQ(readFile<SYSTEM_CONTROL_1012_PARAM>("1012", "system_info").SystemInfo.TelnetPort, "23");
+  EXPECT_STREQ(readFile<SYSTEM_CONTROL_1031_PARAM>("1031", "media_abilities_v2").VideoBestParameter.CapList, "b");
+  EXPECT_EQ(readFile<SYSTEM_CONTROL_3020_PARAM>("3020", "restart").Day, 6);
+  EXPECT_STREQ(readFile<SYSTEM_CONTROL_3026_PARAM>("3026", "custom").InProjectPwd, "p");
+  EXPECT_EQ(readFile<SYSTEM_CONTROL_3300_PARAM>("3300", "display").Chroma, 4);
+  auto network = readFile<SYSTEM_CONTROL_1026_PARAM>("1026", "network_both");
+  EXPECT_STREQ(network.Wire.Gateway, "g");
+  EXPECT_STREQ(network.Wireless.AccessPoint, "a");
+  EXPECT_STREQ(network.Url, "q");
+  set(network.Wireless.IPAddress, "");  // without it there is no wireless part, whatever else is set
+  EXPECT_EQ(bodyOf(kType, "1026", 1, &network), textOf("network_wired"));
+  const SYSTEM_CONTROL_1030_PARAM device;  // starts with the low word of its features only
+  EXPECT_NE(bodyOf(kType, "1030", 1, &device).find("\nFeature=\"4294967295\"\n"), std::string::npos);
+}
+
+TEST_F(SystemControlBodies, DownloadIsWrittenOnlyWithWhatItNeeds) {
+  SYSTEM_CONTROL_1022_PARAM record;
+  record.FileLength = 5;
+  record.Port = 80;
+  for (const char* code : {"1009", "1023", "1024"}) {
+    for (const int direction : {0, 1}) EXPECT_EQ(bodyOf(kType, code, direction, &record), "");
+  }
+}
+
+TEST_F(SystemControlBodies, UpdateNamesItsChannelBehindTheClosedElement) {
+  SYSTEM_CONTROL_1090_PARAM record;
+  set(record.url, "u?a&b");
+  set(record.md5, "m");
+  EXPECT_EQ(bodyOf(kType, "1090", 0, &record), textOf("update"));
+  EXPECT_EQ(bodyOf(kType, "1090", 1, &record), "<RESPONSE_PARAM\n/>\n");
+  record.EmptyChannelId = 1;
+  EXPECT_EQ(bodyOf(kType, "1090", 0, &record), textOf("update_empty_channel"));
+  record.ChannelId = 3;
+  EXPECT_EQ(bodyOf(kType, "1090", 0, &record), textOf("update_channel"));
+  EXPECT_EQ(readFile<SYSTEM_CONTROL_1090_PARAM>("1090", "update_channel").ChannelId, -1);
+  EXPECT_EQ(analysed<SYSTEM_CONTROL_1090_PARAM>(kType, "1090", "<RESPONSE_PARAM ChannelId=\"3\"/>").ChannelId, 3);
+}
+
+TEST_F(SystemControlBodies, UpdateStatusMayLeaveTheChannelOutAndCancelMayNot) {
+  SYSTEM_CONTROL_1092_PARAM record;
+  EXPECT_EQ(bodyOf(kType, "1092", 0, &record), "<REQUEST_PARAM\n/>\n");
+  record.EmptyChannelId = 1;
+  EXPECT_EQ(bodyOf(kType, "1092", 1, &record), "<RESPONSE_PARAM\nProgress=\"-1\"\nState=\"-1\"\nChannelId=\"\"\n/>\n");
+  EXPECT_EQ(bodyOf(kType, "1093", 0, &record), "<REQUEST_PARAM\nChannelId=\"-1\"\n/>\n");
+}
+
+TEST_F(SystemControlBodies, VersionsArePreferredToTheSystemInfoAndMayHaveAnEmptyChannel) {
+  auto record = readFile<SYSTEM_CONTROL_1012_PARAM>("1012", "versions");
+  record.EmptyChannelId = 0;
+  EXPECT_EQ(bodyOf(kType, "1012", 3, &record), textOf("versions_empty_channel"));
+  record.HasSystemInfo = 0;
+  record.SystemInfo = analysed<SYSTEM_CONTROL_3000_PARAM>(kType, "3000", textOf("system_info"));
+  EXPECT_EQ(bodyOf(kType, "1012", 1, &record), textOf("system_info"));
+  const std::string both = "<SystemInfo HdNum=\"9\"/>" + textOf("versions_of_channel");
+  const auto read = analysed<SYSTEM_CONTROL_1012_PARAM>(kType, "1012", both);
+  EXPECT_EQ(read.ChannelId, 4);
+  EXPECT_EQ(read.HasSystemInfo, -1);
+  EXPECT_EQ(read.SystemInfo.HdNum, -1);
+  EXPECT_EQ(analysed<SYSTEM_CONTROL_1012_PARAM>(kType, "1012", "<REQUEST_PARAM ChannelId=\"5\"/>").ChannelId, 5);
+}
+
+TEST_F(SystemControlBodies, AbilitiesMayLeaveTheRemoteAuthorityOut) {
+  const auto read = readFile<SYSTEM_CONTROL_1020_PARAM>("1020", "abilities");
+  EXPECT_EQ(read.NoRemoteAuthority, 0);
+  EXPECT_STREQ(read.PTZControl, "p");
+  EXPECT_EQ(readFile<SYSTEM_CONTROL_1020_PARAM>("1020", "abilities_plain").NoRemoteAuthority, -1);
+}
+
+TEST_F(SystemControlBodies, KeyFrameIsSpeltInTwoWays) {
+  for (const int form : {0, 1}) {
+    auto read = readFile<SYSTEM_CONTROL_1032_PARAM>("1032", form == 0 ? "key_frame_channel" : "key_frame_camera");
+    EXPECT_EQ(read.bSendIpc, form);
+    EXPECT_EQ(read.ChannelId, 2);
+    EXPECT_EQ(read.StreamIndex, 1);
+  }
+  const std::pair<const char*, int> partly[] = {
+      {"", -1}, {"ChannelId=\"5\"", 0}, {"StreamIndex=\"5\"", 0}, {"Camera=\"5\"", 1}, {"Stream=\"5\"", 1}};
+  SYSTEM_CONTROL_1032_PARAM record;
+  for (const auto& [attribute, form] : partly) {
+    record = analysed<SYSTEM_CONTROL_1032_PARAM>(kType, "1032", "<REQUEST_PARAM " + std::string(attribute) + "/>");
+    EXPECT_EQ(record.bSendIpc, form) << attribute;
+  }
+  record.bSendIpc = 2;
+  EXPECT_EQ(bodyOf(kType, "1032", 1, &record), "");
+  EXPECT_TRUE(failures().empty());
+  EXPECT_EQ(bodyOf(kType, "1032", 0, &record), "");
+  EXPECT_EQ(failures(), std::vector<std::string>{"E SystemControl_GetIpcKeyFrame_MessageCompose unknow bSendIpc:2\n"});
+}
+
+TEST_F(SystemControlBodies, NetworkCheckReadsQuestionAndAnswerTogether) {
+  const std::string request = textOf("network_check");
+  const std::string response = textOf("network_check_result");
+  for (const std::string& body : {request + response, response + request}) {
+    const auto read = analysed<SYSTEM_CONTROL_3027_PARAM>(kType, "3027", body);
+    EXPECT_EQ(read.TotalPackets, 10);
+    EXPECT_EQ(read.SkipPacketRatio, 0.25F);
+  }
+}
+
+TEST_F(SystemControlBodies, DisksFollowTheirNumberAsFarAsTheTableGoes) {
+  const auto record = readFile<SYSTEM_CONTROL_3500_PARAM>("3500", "disks");
+  EXPECT_EQ((Numbers{record.DiskNum, record.Disks[0].Status}), (Numbers{-1, 2}));
+  expectBounded(kType, "3500", 1, WireList("control/disks", "<DeviceInfo"), 11, &SYSTEM_CONTROL_3500_PARAM::DiskNum);
+  const std::string many = "<RESPONSE_PARAM DiskNum=\"40\">" + repeated("<DeviceInfo DevIndex=\"9\"/>", 40);
+  const auto cut = analysed<SYSTEM_CONTROL_3500_PARAM>(kType, "3500", many + "</RESPONSE_PARAM>");
+  EXPECT_EQ((Numbers{cut.DiskNum, cut.Disks[10].DevIndex}), (Numbers{40, 9}));
 }
 
 }  // namespace

@@ -80,18 +80,5 @@ TEST_F(SystemSearchipcTest, IotResponseIsReadUnderOtherNamesThanItIsWritten) {
   EXPECT_EQ((Texts{lost.DeviceInfo.SerialNumber, lost.DeviceInfo.DevID}), (Texts{"", "id"}));
 }
 
-TEST_F(SystemSearchipcTest, CodesWithoutBodyAndUnknownCodes) {
-  char body[8] = "?";
-  void* result = nullptr;
-  std::vector<Outcome> calls;
-  for (const char* code : {"9", "10", "11", "20", "0", "12", "102", "-1"}) {
-    calls.push_back(SystemSearchipcMessageCompose("", 0, code, body, sizeof body));
-    calls.push_back(SystemSearchipcMessageAnalysis("", code, &result));
-  }
-  expectTold("discovery/codes_calls", calls);
-  EXPECT_STREQ(body, "?");
-  EXPECT_EQ(result, nullptr);
-}
-
 }  // namespace
 }  // namespace kov::test

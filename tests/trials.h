@@ -16,6 +16,17 @@ using Texts = std::vector<std::string>;
 
 std::string repeated(const std::string& text, int times);
 
+// Where refused calls must not leave anything.
+struct Untouched {
+  ~Untouched() {
+    EXPECT_STREQ(body, "?");
+    EXPECT_EQ(result, this);
+  }
+
+  char body[8] = "?";
+  void* result = this;
+};
+
 // What a call returned and the failures that it logged; the call has just been made.
 struct Outcome {
   Outcome(int code);  // NOLINT(google-explicit-constructor): lists of calls read as what they are

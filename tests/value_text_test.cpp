@@ -1,7 +1,4 @@
-/**
- * @file value_text_test.cpp
- * @brief Numbers out of text, at and beyond the limits of their types.
- */
+// Numbers out of text, at and beyond the limits of their types.
 #include "kov_platform/value_text.h"
 
 #include <gtest/gtest.h>

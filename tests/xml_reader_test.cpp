@@ -1,7 +1,4 @@
-/**
- * @file xml_reader_test.cpp
- * @brief The reader: what it accepts, what it refuses, what it forgives, and what it costs.
- */
+// The reader: what it accepts, what it refuses, what it forgives, and what it costs.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -12,25 +9,20 @@
 #include "../platform/src/xml_grammar.h"
 #include "../platform/src/xml_name_set.h"
 #include "allocation_probe.h"
-#include "golden.h"
 #include "guarded_page.h"
 #include "kov_platform/xml_parser.h"
+#include "trials.h"
 
 namespace {
 
 using kov::test::AllocationProbe;
 using kov::test::GuardedBuffer;
+using kov::test::repeated;
 
 /** Parses a text that lies exactly before an unreadable page. */
 bool accepts(const std::string& text) {
   GuardedBuffer guarded(text);
   return KovXMLParser().Parse(guarded.data()) == 0;
-}
-
-std::string repeated(const std::string& text, int count) {
-  std::string all;
-  for (int i = 0; i < count; ++i) all += text;
-  return all;
 }
 
 /** An element with `count` attributes a0, a1, ... */

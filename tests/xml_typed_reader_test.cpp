@@ -1,7 +1,4 @@
-/**
- * @file xml_typed_reader_test.cpp
- * @brief The typed readers: numbers, floats and texts of one element.
- */
+// The typed readers: numbers, floats and texts of one element.
 #include <gtest/gtest.h>
 
 #include <algorithm>

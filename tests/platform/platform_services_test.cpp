@@ -1,7 +1,4 @@
-/**
- * @file platform_services_test.cpp
- * @brief The build platform's encoders and logger.
- */
+// The build platform's encoders and logger.
 #include <gtest/gtest.h>
 
 #include <string>

@@ -1,8 +1,10 @@
-#include "kov_protocol/alarm_report.h"
-
+// Alarms, reports of devices and repairs of cameras.
 #include <algorithm>
 
 #include "every_message.h"
+#include "kov_protocol/alarm_report.h"
+#include "kov_protocol/device_report.h"
+#include "kov_protocol/ipc_repair.h"
 #include "trials.h"
 
 namespace kov::test {
@@ -11,8 +13,10 @@ namespace {
 using Alarm = ALARM_REPORT_CMD_RPEORT_ALARM_PARAM;
 using Face = ALARM_REPORT_HUMAN_FACE_INFO;
 
-const std::string kType = ALARM_REPORT_MESSAGE_TYPE;
-const std::string kCode = ALARM_REPORT_MESSAGE_CODE;
+const std::string kDevice = DEVICE_REPORT_MESSAGE_TYPE;
+const std::string kIpcRepair = IPC_REPAIR_MESSAGE_TYPE;
+const std::string kAlarmType = ALARM_REPORT_MESSAGE_TYPE;
+const std::string kAlarmCode = ALARM_REPORT_MESSAGE_CODE;
 
 void fillAlarm(void* record, unsigned char value) {
   std::memset(record, value, sizeof(Alarm));
@@ -27,8 +31,8 @@ void fillFaceAlarm(void* record, unsigned char value) {
   static_cast<Alarm*>(record)->pExData = &face;
 }
 
-const AlsoTested kAlarm({kType, kCode, kRecordType<Alarm>, fillAlarm});
-const AlsoTested kFaceAlarm({kType, kCode, kRecordType<Alarm>, fillFaceAlarm});
+const AlsoTested kAlarm({kAlarmType, kAlarmCode, kRecordType<Alarm>, fillAlarm});
+const AlsoTested kFaceAlarm({kAlarmType, kAlarmCode, kRecordType<Alarm>, fillFaceAlarm});
 
 const std::string kOpening = "<ALARM_REPORT_PARAM>\n<ALARM_ITEM>\n<ALARM_INFO\n";
 const std::string kEnding = "</ALARM_ITEM>\n</ALARM_REPORT_PARAM>\n";
@@ -37,7 +41,7 @@ const std::string kEnding = "</ALARM_ITEM>\n</ALARM_REPORT_PARAM>\n";
 class Arrived {
  public:
   explicit Arrived(const std::string& extra, const std::string& tail = "")
-      : analysis_(analysePayload(received(kType, kCode, kOpening + "/>\n" + extra + kEnding) + tail)) {
+      : analysis_(analysePayload(received(kAlarmType, kAlarmCode, kOpening + "/>\n" + extra + kEnding) + tail)) {
     EXPECT_EQ(analysis_.code, 0);
   }
   Alarm& alarm() const { return *static_cast<Alarm*>(analysis_.result.get()); }
@@ -48,7 +52,7 @@ class Arrived {
   }
   std::string bodyAs(std::int32_t code) const {
     alarm().Alarm_code = code;
-    return bodyOf(kType, kCode, 0, &alarm());
+    return bodyOf(kAlarmType, kAlarmCode, 0, &alarm());
   }
 
  private:
@@ -65,7 +69,7 @@ std::uint32_t extraLengthOf(const Alarm& alarm, int direction = 0) {
 class AlarmReportTest : public WireTest {};
 
 TEST_F(AlarmReportTest, FaceCountsItsFeatureData) {
-  EXPECT_EQ(analysed<Alarm>(kType, kCode, golden("reports/alarm.txt")).pExData, nullptr);
+  EXPECT_EQ(analysed<Alarm>(kAlarmType, kAlarmCode, golden("reports/alarm.txt")).pExData, nullptr);
   const Arrived face("<HumanFaceInfo AlgVer=\"2\"/><ANIMAL_INFO/>");
   face.alarm().Alarm_code = 39;
   EXPECT_EQ((Numbers{extraLengthOf(face.alarm()), extraLengthOf(face.alarm(), 3)}), (Numbers{1028, 0}));
@@ -87,7 +91,7 @@ TEST_F(AlarmReportTest, FeatureDataIsTakenAsFarAsItWasReceived) {
   EXPECT_EQ(taken("<HumanFaceInfo/>", data.substr(0, 1000)), std::string(996, 'F'));
 
   // The caller of the function vouches for what a face needs, and no more is read.
-  std::string text = received(kType, kCode, kOpening + "/><HumanFaceInfo AlgVer=\"1\"/>" + kEnding);
+  std::string text = received(kAlarmType, kAlarmCode, kOpening + "/><HumanFaceInfo AlgVer=\"1\"/>" + kEnding);
   text += std::string(4, '\0') + std::string(512, 'F');
   void* result = nullptr;
   ASSERT_EQ(AlarmReportMessageAnalysis(std::vector<char>(text.begin(), text.end()).data(), &result), 0);
@@ -115,19 +119,69 @@ TEST_F(AlarmReportTest, SmallerExtrasHaveRoomForAFace) {
 
 TEST_F(AlarmReportTest, TellsWhatItRefuses) {
   const Alarm alarm;
-  char out[8] = "?";
+  Untouched out;
   std::uint32_t extraLength = 0;
-  void* result = nullptr;
-  EXPECT_EQ(AlarmReportMessageCompose(&alarm, 1, out, 8, &extraLength), 0);
+  EXPECT_EQ(AlarmReportMessageCompose(&alarm, 1, out.body, 8, &extraLength), 0);
   EXPECT_EQ(logLines().back(), "I ALARM_REPORT_MESSAGE response message Not have Body, please check msgtype\n");
   expectTold("reports/alarm_calls",
-             {AlarmReportMessageCompose(nullptr, 0, out, 8, &extraLength),
-              AlarmReportMessageCompose(&alarm, 0, out, 8, nullptr), AlarmReportMessageAnalysis("", nullptr),
-              analysisCode(kType, "CMD_OTHER", "<ALARM_REPORT_PARAM/>"), analysisCode(kType, kCode, "<ALARM_ITEM/>"),
-              AlarmReportMessageAnalysis("<a/>", &result)});
-  EXPECT_STREQ(out, "?");
-  EXPECT_EQ(documentOf(kType, "CMD_OTHER", 0, &alarm), "code -1000");
+             {AlarmReportMessageCompose(nullptr, 0, out.body, 8, &extraLength),
+              AlarmReportMessageCompose(&alarm, 0, out.body, 8, nullptr), AlarmReportMessageAnalysis("", nullptr),
+              analysisCode(kAlarmType, "CMD_OTHER", "<ALARM_REPORT_PARAM/>"),
+              analysisCode(kAlarmType, kAlarmCode, "<ALARM_ITEM/>"), AlarmReportMessageAnalysis("<a/>", &out.result)});
+  EXPECT_EQ(documentOf(kAlarmType, "CMD_OTHER", 0, &alarm), "code -1000");
   EXPECT_EQ(failures()[0], "E PTZ_CONTROL_MESSAGE deal a unknow Msg_code:CMD_OTHER !!!\n");
+}
+
+class DeviceReportTest : public WireTest {};
+
+TEST_F(DeviceReportTest, PositionEndsBeforeTheReservedWord) {
+  EXPECT_STREQ(analysed<DEVICE_REPORT_3900_PARAM>(kDevice, "3900", golden("reports/status.txt")).streamstat,
+               "1,0 & more");
+  auto record = analysed<DEVICE_REPORT_3901_PARAM>(kDevice, "3901", golden("reports/position.txt"));
+  EXPECT_EQ((Numbers{record.y, record.linkage, record.reserved,
+                     analysed<DEVICE_REPORT_3901_PARAM>(kDevice, "3901", "<xml><x>5</x></xml>").mul}),
+            (Numbers{-2, 0, 0, -1}));
+  record.reserved = 77;
+  EXPECT_EQ(DEVICE_REPORT_3901_PARAM_init(&record), 0);
+  for (const std::int32_t value : {record.x, record.y, record.mul, record.maxMul, record.linkage}) EXPECT_EQ(value, -1);
+  EXPECT_EQ(record.reserved, 77);
+  EXPECT_EQ(DEVICE_REPORT_3901_PARAM_init(nullptr), KOV_ERROR_NULL);
+}
+
+const AlsoTested kRepair({kIpcRepair, "any", kRecordType<IPC_REPAIR_PARAM>});
+
+class IpcRepairTest : public WireTest {
+ protected:
+  static IPC_REPAIR_PARAM read(const std::string& body) { return analysed<IPC_REPAIR_PARAM>(kIpcRepair, "any", body); }
+};
+
+TEST_F(IpcRepairTest, RequestsAndResponsesShareElementsAndFields) {
+  const auto asked = read(golden("reports/firmware.txt"));
+  EXPECT_EQ(documentOf(kIpcRepair, "", 2, &asked).substr(0, 5), "<?xml");
+  EXPECT_STREQ(read("<IPC_REPAIR IPCMac=\"mac\" IpcIdentify=\"\" RepairVer=\"2\"/>").RepairVer, "");
+  const std::string response = golden("reports/firmware_answer.txt");
+  const auto both = read("<IPC_ALG_REPAIR Alm=\"a\"/>" + response);
+  EXPECT_EQ(bodyOf(kIpcRepair, "", 1, &both), response);
+  EXPECT_EQ((Texts{both.Mac, both.IPCMac}), (Texts{"ipc", "ipc"}));
+
+  auto answered = read(golden("reports/algorithm_answer.txt"));
+  EXPECT_STREQ(answered.Ipaddr, "10.0.0.2");
+  set(answered.IPCMac, "ipc");  // the client is told only without its MAC
+  EXPECT_EQ(bodyOf(kIpcRepair, "", 1, &answered).find("Client"), std::string::npos);
+  EXPECT_STREQ(read("<IPC_ALG_REPAIR ClientMac=\"c\"/>").IPCMac, "c");
+}
+
+TEST_F(IpcRepairTest, TellsEmptyArgumentsAndMissingElements) {
+  Untouched out;
+  const IPC_REPAIR_PARAM record;
+  expectTold("reports/repair_calls",
+             {IpcRepairMessageCompose(&record, 0, nullptr, 8), IpcRepairMessageCompose(&record, 0, out.body, 0),
+              IpcRepairMessageCompose(nullptr, 0, out.body, 8), IpcRepairMessageAnalysis(nullptr, &out.result),
+              IpcRepairMessageAnalysis("<a>", &out.result), IpcRepairMessageAnalysis("<a/>", &out.result),
+              analysisCode(kIpcRepair, "", "")});
+  char cut[8];
+  EXPECT_EQ(IpcRepairMessageCompose(&record, 0, cut, 8), 0);
+  EXPECT_STREQ(cut, "<IPC_RE");
 }
 
 }  // namespace
