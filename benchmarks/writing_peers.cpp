@@ -64,7 +64,6 @@ void Template::addNumber(int number) {
   format += "{}";
   before.format += "%d";
   before.numbers.push_back(number);
-  before.numbers.reserve(kMostNumbers);
   arguments.push_back(number);
   piece.number = number;
   pieces.push_back(std::exchange(piece, Piece()));

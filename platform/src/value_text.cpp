@@ -191,8 +191,8 @@ bool scanInt(const char*& text, std::int32_t& value) noexcept {
 
 std::int32_t intOf(const char* text) noexcept {
   std::int32_t value = 0;
-  if (text == nullptr || scanShort(text, value) != nullptr) return value;
-  return scanInt(text, value) ? value : 0;
+  scanInt(text, value);
+  return value;
 }
 
 bool readInt(const char* text, std::int32_t& value) noexcept { return scanInt(text, value); }

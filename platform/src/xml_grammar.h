@@ -48,12 +48,17 @@ inline bool isXmlBlank(char c) { return hasClass(c, kBlankClass); }
 inline bool isNameStart(char c) { return hasClass(c, kNameStartClass); }
 inline bool isNameChar(char c) { return hasClass(c, kNameClass); }
 
-/** Behind the name characters that begin at `at`. It may look at kNameBlock bytes from any place before that. */
+/** skipName() may look at so many bytes from any place before the end of a name. */
+#ifdef __SSE2__
+constexpr std::size_t kNameBlock = 16;
+#else
+constexpr std::size_t kNameBlock = 1;
+#endif
+
+/** Behind the name characters that begin at `at`. */
 #ifdef __SSE2__
 
-constexpr std::size_t kNameBlock = 16;
-
-/** The classes by arithmetic, for a block at once: to guess where each name ends costs more than to compute it. */
+// The classes by arithmetic, for a block at once: to guess where each name ends costs more than to compute it.
 inline char* skipName(char* at) {
   const auto all = [](int c) { return _mm_set1_epi8(static_cast<char>(c)); };
   const auto isUpTo = [=](__m128i c, int most) { return _mm_cmpeq_epi8(_mm_subs_epu8(c, all(most)), all(0)); };
@@ -71,8 +76,6 @@ inline char* skipName(char* at) {
 }
 
 #else
-
-constexpr std::size_t kNameBlock = 1;
 
 inline char* skipName(char* at) {
   while (isNameChar(*at)) ++at;

@@ -28,7 +28,8 @@ struct Request {
   std::uint32_t extraLen = 0;
 };
 
-// What a family adds to the header goes behind the two optional attributes and shares their 256 bytes.
+// What a family adds to the header goes behind the two optional attributes and shares their 256 bytes, for which every
+// document has room.
 int composeExtras(const Request& request, ComposeCall& call, BodyWriter& document, std::size_t used) {
   if (request.family == nullptr || request.family->headerExtras == nullptr) return KOV_OK;
   HeaderExtras extras(document.cursor() - used, kExtrasSize, used);
